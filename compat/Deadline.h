@@ -1,0 +1,5 @@
+#pragma once
+
+#include <chrono>
+
+using Deadline = std::chrono::steady_clock::time_point;
