@@ -1,0 +1,86 @@
+#include "memfree/CgroupReclaim.h"
+
+#include "compat/Files.h"
+#include "memfree/ByteCount.h"
+#include "memfree/MemoryState.h"
+
+#include <algorithm>
+#include <cerrno>
+#include <dirent.h>
+#include <fcntl.h>
+#include <memory>
+#include <unistd.h>
+
+namespace {
+
+constexpr const char *reclaimFile = "/memory.reclaim";
+
+/// One write is one request. @return false if less was reclaimed than was asked for; errno says why
+bool Request(const std::string &group, std::uint64_t nBytes, bool bWithoutSwap)
+{
+    const int descriptor = open((group + reclaimFile).c_str(), O_WRONLY | O_CLOEXEC);
+    if (descriptor < 0) {
+        return false;
+    }
+    const std::string request = std::to_string(nBytes) + (bWithoutSwap ? " swappiness=0" : "");
+    const bool bDone = write(descriptor, request.data(), request.size()) >= 0;
+    const int error = errno;
+    close(descriptor);
+    errno = error;
+    return bDone;
+}
+
+} // namespace
+
+std::vector<std::string> FindReclaimableCgroups(const std::string &cgroup, uid_t user)
+{
+    const std::string id = std::to_string(user);
+    const std::string manager = cgroup + "/user.slice/user-" + id + ".slice/user@" + id + ".service";
+    const auto mayReclaim = [](const std::string &group) {
+        return access((group + reclaimFile).c_str(), W_OK) == 0;
+    };
+    if (mayReclaim(manager)) {
+        return {manager};
+    }
+    std::vector<std::string> groups;
+    const std::unique_ptr<DIR, int (*)(DIR *)> directory(opendir(manager.c_str()), closedir);
+    while (const dirent *entry = directory ? readdir(directory.get()) : nullptr) {
+        if (entry->d_name[0] != '.' && mayReclaim(manager + "/" + entry->d_name)) {
+            groups.push_back(manager + "/" + entry->d_name);
+        }
+    }
+    std::sort(groups.begin(), groups.end());
+    return groups;
+}
+
+std::uint64_t InactiveInCgroup(const std::string &group)
+{
+    std::string report;
+    return ReadFile(group + "/memory.stat", report) ? FindField(report, "inactive_file").value_or(0) : 0;
+}
+
+bool ReclaimsWithoutSwap(const std::string &group)
+{
+    return Request(group, 0, true);
+}
+
+Stop ReclaimCgroup(const std::string &group, bool bWithoutSwap, const std::function<Stop()> &check)
+{
+    constexpr std::uint64_t nStep = 64 * nBytesPerMiB;
+    for (bool bFirst = true;; bFirst = false) {
+        const std::uint64_t nBefore = InactiveInCgroup(group);
+        if (nBefore < nBytesPerMiB) {
+            return Stop::NothingLeft;
+        }
+        // EAGAIN: less than that was to be had, which is known only by looking again.
+        if (!Request(group, std::min(nBefore, nStep), bWithoutSwap) && errno != EAGAIN) {
+            return bFirst ? Stop::Failed : Stop::NothingLeft;
+        }
+        if (const Stop stop = check(); stop != Stop::None) {
+            return stop;
+        }
+        if (InactiveInCgroup(group) + nBytesPerMiB > nBefore) {
+            return Stop::NothingLeft;
+        }
+    }
+}

@@ -1,0 +1,92 @@
+#include "memfree/MemoryState.h"
+
+#include "compat/Files.h"
+#include "memfree/ByteCount.h"
+
+#include <algorithm>
+#include <unistd.h>
+
+namespace {
+
+/// No memory but a broken file: 2^50 bytes, a PiB.
+constexpr std::uint64_t nMaxKiB = std::uint64_t(1) << 40;
+
+std::optional<std::uint64_t> FindKiB(std::string_view report, std::string_view name)
+{
+    const auto nKiB = FindField(report, name);
+    return nKiB && *nKiB <= nMaxKiB ? std::optional(*nKiB * nBytesPerKiB) : std::nullopt;
+}
+
+} // namespace
+
+std::optional<std::uint64_t> FindField(std::string_view report, std::string_view name)
+{
+    while (!report.empty()) {
+        const std::string_view line = report.substr(0, report.find('\n'));
+        // The name ends at a colon or a blank, so that "Active" is not found in "Active(file)".
+        if (line.starts_with(name) && line.size() > name.size() &&
+            (line[name.size()] == ':' || line[name.size()] == ' ')) {
+            return ParseNumber(line.substr(name.size() + 1));
+        }
+        report.remove_prefix(std::min(line.size() + 1, report.size()));
+    }
+    return std::nullopt;
+}
+
+bool ParseMeminfo(std::string_view report, MemoryState &state)
+{
+    const auto total = FindKiB(report, "MemTotal");
+    const auto free = FindKiB(report, "MemFree");
+    const auto inactive = FindKiB(report, "Inactive(file)");
+    if (!total || !free || !inactive || *total == 0 || *free > *total || *inactive > *total) {
+        return false;
+    }
+    state.nTotal = *total;
+    state.nFree = *free;
+    state.nInactiveFile = *inactive;
+    state.nAvailable = FindKiB(report, "MemAvailable").value_or(*free);
+    state.nActiveFile = FindKiB(report, "Active(file)").value_or(0);
+    state.nDirty = FindKiB(report, "Dirty").value_or(0) + FindKiB(report, "Writeback").value_or(0);
+    state.nSwapFree = FindKiB(report, "SwapFree").value_or(0);
+    state.nSwapUsed = std::max(FindKiB(report, "SwapTotal").value_or(0), state.nSwapFree) - state.nSwapFree;
+    return true;
+}
+
+std::optional<std::uint64_t> ParseStalled(std::string_view report)
+{
+    const std::size_t nLine = report.starts_with("full ") ? 0 : report.find("\nfull ");
+    if (nLine == std::string_view::npos) {
+        return std::nullopt;
+    }
+    report.remove_prefix(nLine + 1);
+    report = report.substr(0, report.find('\n'));
+    constexpr std::string_view key = " total=";
+    const std::size_t nTotal = report.find(key);
+    return nTotal == std::string_view::npos ? std::nullopt : ParseNumber(report.substr(nTotal + key.size()));
+}
+
+bool ReadMemoryState(const std::string &proc, MemoryState &state, std::string &error)
+{
+    state = {};
+    std::string report;
+    const std::string meminfo = proc + "/meminfo";
+    if (!ReadFile(meminfo, report)) {
+        error = "cannot read " + meminfo + ": " + LastError();
+        return false;
+    }
+    if (!ParseMeminfo(report, state)) {
+        error = "cannot make sense of " + meminfo;
+        return false;
+    }
+    if (ReadFile(proc + "/vmstat", report)) {
+        // Before kernel 5.9 one counter held both kinds.
+        const auto nPages = FindField(report, "workingset_refault_file");
+        const auto nPagesOld = FindField(report, "workingset_refault");
+        state.nRefaulted =
+            nPages.value_or(nPagesOld.value_or(0)) * static_cast<std::uint64_t>(sysconf(_SC_PAGESIZE));
+    }
+    if (ReadFile(proc + "/pressure/memory", report)) {
+        state.usStalled = ParseStalled(report).value_or(0);
+    }
+    return true;
+}

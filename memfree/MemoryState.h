@@ -1,0 +1,41 @@
+#pragma once
+
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <string_view>
+
+/// What the kernel says of memory at one moment. Bytes unless the name says otherwise.
+struct MemoryState
+{
+    std::uint64_t nTotal = 0;
+    std::uint64_t nFree = 0;
+    /// The kernel's own estimate of what a new program could get; as small as nFree where a kernel has none.
+    std::uint64_t nAvailable = 0;
+    std::uint64_t nActiveFile = 0;
+    /// File cache not used lately: what can be given back.
+    std::uint64_t nInactiveFile = 0;
+    /// Not written to its file yet, so not to be had before it is.
+    std::uint64_t nDirty = 0;
+    std::uint64_t nSwapFree = 0;
+    std::uint64_t nSwapUsed = 0;
+    /// File pages that were read again soon after they had been evicted, since the start of the machine.
+    std::uint64_t nRefaulted = 0;
+    /// How long every task at once waited for memory (PSI "full"), since the start; 0 without PSI.
+    std::uint64_t usStalled = 0;
+};
+
+/// Fills in what /proc/meminfo says; false if it lacks the total, the free or the inactive memory, or if they
+/// are senseless.
+bool ParseMeminfo(std::string_view report, MemoryState &state);
+
+/// The number behind a name at the start of a line of /proc/meminfo, /proc/vmstat, memory.stat and their
+/// like.
+std::optional<std::uint64_t> FindField(std::string_view report, std::string_view name);
+
+/// The total of the "full" line of /proc/pressure/memory in microseconds.
+std::optional<std::uint64_t> ParseStalled(std::string_view report);
+
+/// Looks at meminfo, vmstat and pressure/memory in a proc directory. @return false, and why, if memory cannot
+/// be read.
+bool ReadMemoryState(const std::string &proc, MemoryState &state, std::string &error);

@@ -1,0 +1,148 @@
+#include "memfree/PressureChild.h"
+
+#include "compat/Files.h"
+
+#include <algorithm>
+#include <cerrno>
+#include <csignal>
+#include <cstdio>
+#include <fcntl.h>
+#include <poll.h>
+#include <string>
+#include <sys/mman.h>
+#include <sys/prctl.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+namespace {
+
+/// Kernels before 5.14 do not know the request; others stop at a page that they cannot get.
+bool Populate(char *start, std::size_t nBytes, bool bFile)
+{
+    if (madvise(start, nBytes, bFile ? MADV_POPULATE_READ : MADV_POPULATE_WRITE) == 0) {
+        return true;
+    }
+    if (errno != EINVAL) {
+        return false;
+    }
+    const auto nPage = static_cast<std::size_t>(sysconf(_SC_PAGESIZE));
+    for (std::size_t nOffset = 0; nOffset < nBytes; nOffset += nPage) {
+        volatile char *page = start + nOffset;
+        if (bFile) {
+            static_cast<void>(*page);
+        } else {
+            *page = 1;
+        }
+    }
+    return true;
+}
+
+/// The pages mapped, in bytes: file pages stand third in statm, all pages second.
+std::uint64_t ResidentBytes(bool bFile)
+{
+    std::string statm;
+    unsigned long long nTotal = 0;
+    unsigned long long nAll = 0;
+    unsigned long long nFile = 0;
+    if (!ReadFile("/proc/self/statm", statm) ||
+        sscanf(statm.c_str(), "%llu %llu %llu", &nTotal, &nAll, &nFile) != 3) {
+        return 0;
+    }
+    return (bFile ? nFile : nAll - std::min(nAll, nFile)) * static_cast<std::uint64_t>(sysconf(_SC_PAGESIZE));
+}
+
+[[noreturn]] void Run(const PressureSource &source, pid_t parent, int requests, int replies)
+{
+    prctl(PR_SET_PDEATHSIG, SIGKILL);
+    if (getppid() != parent) {
+        _exit(1);
+    }
+    // Raising one's own needs no privilege.
+    if (const int score = open("/proc/self/oom_score_adj", O_WRONLY | O_CLOEXEC); score >= 0) {
+        WriteAll(score, "1000");
+        close(score);
+    }
+
+    const bool bFile = source.descriptor >= 0;
+    void *memory =
+        mmap(nullptr, source.nSize, bFile ? PROT_READ : PROT_READ | PROT_WRITE,
+             bFile ? MAP_SHARED : MAP_PRIVATE | MAP_ANONYMOUS | MAP_NORESERVE, source.descriptor, 0);
+    if (memory == MAP_FAILED) {
+        _exit(1);
+    }
+    // Sequential: the kernel does not count these pages as used when it finds them mapped. When everything
+    // older is gone it takes them, and not the pages that other programs use.
+    madvise(memory, source.nSize, bFile ? MADV_SEQUENTIAL : MADV_HUGEPAGE);
+    const std::uint64_t nOwn = ResidentBytes(bFile);
+
+    std::uint64_t nPressed = 0;
+    std::uint64_t nBytes = 0;
+    while (read(requests, &nBytes, sizeof nBytes) == sizeof nBytes) {
+        PressureReply reply;
+        nBytes = std::min(nBytes, source.nSize - nPressed);
+        reply.bDone = Populate(static_cast<char *>(memory) + nPressed, nBytes, bFile);
+        nPressed += nBytes;
+        reply.nResident = ResidentBytes(bFile) - nOwn;
+        if (write(replies, &reply, sizeof reply) != sizeof reply) {
+            break;
+        }
+    }
+    _exit(0);
+}
+
+} // namespace
+
+PressureChild::PressureChild(const PressureSource &source)
+{
+    int there[2];
+    int back[2];
+    if (pipe2(there, O_CLOEXEC) != 0) {
+        return;
+    }
+    if (pipe2(back, O_CLOEXEC) != 0) {
+        close(there[0]);
+        close(there[1]);
+        return;
+    }
+    const pid_t parent = getpid();
+    child = fork();
+    if (child == 0) {
+        close(there[1]);
+        close(back[0]);
+        Run(source, parent, there[0], back[1]);
+    }
+    close(there[0]);
+    close(back[1]);
+    requests = there[1];
+    replies = back[0];
+}
+
+PressureChild::~PressureChild()
+{
+    if (child > 0) {
+        kill(child, SIGKILL);
+        while (waitpid(child, nullptr, 0) < 0 && errno == EINTR) {
+        }
+    }
+    if (requests >= 0) {
+        close(requests);
+        close(replies);
+    }
+}
+
+bool PressureChild::Press(std::uint64_t nBytes)
+{
+    return write(requests, &nBytes, sizeof nBytes) == sizeof nBytes;
+}
+
+bool PressureChild::WaitForReply(int ms, PressureReply &reply)
+{
+    pollfd answer = {replies, POLLIN, 0};
+    if (poll(&answer, 1, ms) != 1) {
+        return false;
+    }
+    if (read(replies, &reply, sizeof reply) != sizeof reply) {
+        reply = {};
+    }
+    return true;
+}

@@ -1,0 +1,106 @@
+#include "memfree/PressureFile.h"
+
+#include <algorithm>
+#include <cerrno>
+#include <cstdlib>
+#include <fcntl.h>
+#include <linux/magic.h>
+#include <sys/mman.h>
+#include <sys/stat.h>
+#include <sys/statfs.h>
+#include <unistd.h>
+
+namespace {
+
+// Not in every linux/magic.h.
+constexpr std::uint32_t xfsMagic = 0x58465342;
+constexpr std::uint32_t bcachefsMagic = 0xca451a4e;
+
+bool IsDiskFileSystem(int descriptor)
+{
+    constexpr std::uint32_t known[] = {EXT4_SUPER_MAGIC, xfsMagic,      BTRFS_SUPER_MAGIC,
+                                       F2FS_SUPER_MAGIC, bcachefsMagic, OVERLAYFS_SUPER_MAGIC};
+    struct statfs about = {};
+    return fstatfs(descriptor, &about) == 0 &&
+           std::ranges::find(known, static_cast<std::uint32_t>(about.f_type)) != std::end(known);
+}
+
+/// An overlay tells nothing of what is below it, and a live system's is often in memory: there, reading a
+/// hole takes a block for it.
+bool KeepsHoles(int descriptor)
+{
+    const auto nPage = static_cast<std::size_t>(sysconf(_SC_PAGESIZE));
+    void *page = mmap(nullptr, nPage, PROT_READ, MAP_SHARED, descriptor, 0);
+    if (page == MAP_FAILED) {
+        return false;
+    }
+    static_cast<void>(*static_cast<const volatile char *>(page));
+    munmap(page, nPage);
+    struct stat status = {};
+    return fstat(descriptor, &status) == 0 && status.st_blocks == 0;
+}
+
+int OpenUnlinked(const std::string &directory)
+{
+    const int descriptor = open(directory.c_str(), O_TMPFILE | O_RDWR | O_CLOEXEC, 0600);
+    if (descriptor >= 0 || (errno != EOPNOTSUPP && errno != EISDIR && errno != EINVAL)) {
+        return descriptor;
+    }
+    // Overlays before kernel 6.3.
+    std::string path = directory + "/.memfree-XXXXXX";
+    const int named = mkostemp(path.data(), O_CLOEXEC);
+    if (named >= 0) {
+        unlink(path.c_str());
+    }
+    return named;
+}
+
+} // namespace
+
+std::vector<std::string> PressureDirectories()
+{
+    std::vector<std::string> directories;
+    const auto add = [&directories](const char *variable, const std::string &below) {
+        const char *value = getenv(variable);
+        if (value && value[0] == '/') {
+            directories.push_back(value + below);
+        }
+    };
+    add("XDG_CACHE_HOME", "");
+    add("HOME", "/.cache");
+    add("HOME", "");
+    directories.insert(directories.end(), {"/var/tmp", "/tmp"});
+    return directories;
+}
+
+std::string FindPressureDirectory(const std::vector<std::string> &directories)
+{
+    for (const std::string &directory : directories) {
+        const int descriptor = OpenPressureFile(directory, 0);
+        if (descriptor >= 0) {
+            close(descriptor);
+            return directory;
+        }
+    }
+    return {};
+}
+
+int OpenPressureFile(const std::string &directory, std::uint64_t nSize)
+{
+    // Asked before anything is made there: a directory on the network is not to be touched.
+    const int place = open(directory.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+    const bool bDisk = place >= 0 && IsDiskFileSystem(place);
+    if (place >= 0) {
+        close(place);
+    }
+    const int descriptor = bDisk ? OpenUnlinked(directory) : -1;
+    const auto nPage = static_cast<std::uint64_t>(sysconf(_SC_PAGESIZE));
+    if (descriptor < 0) {
+        return -1;
+    }
+    if (ftruncate(descriptor, static_cast<off_t>(std::max(nSize, nPage))) == 0 && KeepsHoles(descriptor)) {
+        return descriptor;
+    }
+    close(descriptor);
+    return -1;
+}

@@ -1,0 +1,80 @@
+// memfree: frees inactive memory, as much as can be had without harm.
+#include "compat/Files.h"
+#include "memfree/ByteCount.h"
+#include "memfree/Reclaim.h"
+
+#include <csignal>
+#include <unistd.h>
+
+namespace {
+
+enum ExitStatus
+{
+    Done = 0,
+    CouldNot = 1,
+    BadArguments = 2
+};
+
+constexpr std::string_view help =
+    "usage: memfree [--dry-run] BYTES\n"
+    "Frees inactive memory (file cache not used lately) until BYTES are free or it would do harm.\n"
+    "BYTES is an upper bound, decimal: what is free now plus what is to be freed.\n"
+    "\n"
+    "  -n, --dry-run  say what would be done and why, and do nothing\n"
+    "  -h, --help     this text\n"
+    "\n"
+    "At the end one line says what was freed, by what means and in how long.\n"
+    "Exit status: 0 done or nothing to do, 1 could not, 2 bad usage.\n";
+
+int Fail(const std::string &why, ExitStatus status)
+{
+    WriteAll(STDERR_FILENO, "memfree: " + why + "\n");
+    return status;
+}
+
+/// A reader that is gone is no failure: the memory is free all the same.
+int Tell(const Outcome &outcome)
+{
+    if (outcome.bFailed) {
+        return Fail(outcome.text, CouldNot);
+    }
+    WriteAll(STDOUT_FILENO, outcome.text + "\n");
+    return Done;
+}
+
+} // namespace
+
+int main(int argc, char *argv[])
+{
+    // SIGTERM and its like may end us as they are: all that is held is held by processes, and goes with them.
+    std::signal(SIGPIPE, SIG_IGN);
+    // A limit on file sizes is one more way to be refused.
+    std::signal(SIGXFSZ, SIG_IGN);
+
+    bool bDryRun = false;
+    const char *count = nullptr;
+    for (int i = 1; i < argc; ++i) {
+        const std::string_view argument = argv[i];
+        if (argument == "-h" || argument == "--help") {
+            WriteAll(STDOUT_FILENO, std::string(help));
+            return Done;
+        }
+        if (argument == "-n" || argument == "--dry-run") {
+            bDryRun = true;
+        } else if (argument.starts_with("-") && argument.find_first_of("0123456789") != 1) {
+            return Fail("no such option: \"" + std::string(argument) + "\"", BadArguments);
+        } else if (count) {
+            return Fail("one byte count only, not also \"" + std::string(argument) + "\"", BadArguments);
+        } else {
+            count = argv[i];
+        }
+    }
+    if (!count) {
+        return Fail("a byte count is needed; see memfree --help", BadArguments);
+    }
+    const auto nBytes = ParseByteCount(count);
+    if (!nBytes) {
+        return Fail("not a byte count: \"" + std::string(count) + "\"", BadArguments);
+    }
+    return Tell(bDryRun ? PlanMemory(*nBytes) : FreeMemory(*nBytes));
+}
