@@ -1,0 +1,31 @@
+#pragma once
+
+#include <QObject>
+
+#include <array>
+#include <csignal>
+
+/// Turns SIGTERM, SIGINT and SIGHUP into a quit request, a Close event posted to the application object, so
+/// that the end of a session runs destructors and saves. A SIGHUP that was ignored at the start (nohup) stays
+/// ignored.
+///
+/// One at a time, after the application object is made. As its child it also covers the application's own
+/// destructor: a second signal during the last saving changes nothing. The old dispositions come back with
+/// its destruction.
+class QuitOnSignal : public QObject
+{
+    Q_OBJECT
+
+public:
+    explicit QuitOnSignal(QObject *parent = nullptr);
+    ~QuitOnSignal() override;
+
+private slots:
+    void OnSignal();
+
+private:
+    static constexpr std::array signalNumbers{SIGTERM, SIGINT, SIGHUP};
+
+    std::array<int, 2> descriptors{-1, -1};
+    std::array<struct sigaction, signalNumbers.size()> oldActions{};
+};

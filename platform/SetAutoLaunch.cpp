@@ -1,0 +1,44 @@
+#include "platform/Global.h"
+
+#include <QCoreApplication>
+
+QString Global::AddLoginItemScript(const QString &bundlePath)
+{
+    return QStringLiteral("tell application \"System Events\"\n"
+                          "    make login item at end with properties {path:\"%1\", kind:application}\n"
+                          "end tell\n")
+        .arg(bundlePath);
+}
+
+QString Global::RemoveLoginItemScript(const QString &itemName)
+{
+    return QStringLiteral("tell application \"System Events\"\n"
+                          "    get the name of every login item\n"
+                          "    if login item \"%1\" exists then\n"
+                          "        delete login item \"%1\"\n"
+                          "    end if\n"
+                          "end tell\n")
+        .arg(itemName);
+}
+
+QString Global::BundlePath(const QString &applicationDirPath)
+{
+    const qsizetype end = applicationDirPath.lastIndexOf(QStringLiteral("/Contents/MacOS"));
+    // Not checked any further: outside a bundle, the directory itself is what can be started.
+    return end > 0 ? applicationDirPath.left(end) : applicationDirPath;
+}
+
+QString Global::LoginItemName(const QString &applicationName)
+{
+    // The system shows a hyphenated application with blanks; the item is found under the name shown.
+    return QString(applicationName).replace(QLatin1Char('-'), QLatin1Char(' '));
+}
+
+void Global::SetAutoLaunch(bool bOn)
+{
+    // Added without asking whether it is there: the interpreter that keeps the list knows best, and one
+    // process is enough.
+    const QString script = bOn ? AddLoginItemScript(BundlePath(QCoreApplication::applicationDirPath()))
+                               : RemoveLoginItemScript(LoginItemName(QCoreApplication::applicationName()));
+    RunAppleScript(script, QCoreApplication::instance(), true);
+}

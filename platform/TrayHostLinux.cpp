@@ -1,0 +1,163 @@
+#include "platform/TrayHost.h"
+
+#include <QAbstractNativeEventFilter>
+#include <QDBusConnection>
+#include <QDBusMessage>
+#include <QDBusPendingCallWatcher>
+#include <QDBusServiceWatcher>
+#include <QDBusVariant>
+#include <QGuiApplication>
+#include <QSystemTrayIcon>
+#include <QTimer>
+
+#include <cstdlib>
+#include <memory>
+#include <utility>
+
+#include <xcb/xcb.h>
+
+static const QString watcherService = QStringLiteral("org.kde.StatusNotifierWatcher");
+static constexpr int msPatience = 100;
+static constexpr int msUntilAbsent = 3000;
+
+using XcbReply = std::unique_ptr<void, decltype(&std::free)>;
+
+static xcb_connection_t *XcbConnection()
+{
+    const auto *x11 = qGuiApp->nativeInterface<QNativeInterface::QX11Application>();
+    return x11 ? x11->connection() : nullptr;
+}
+
+static xcb_atom_t XcbAtom(const QByteArray &name)
+{
+    xcb_connection_t *connection = XcbConnection();
+    const auto cookie = xcb_intern_atom(connection, 0, static_cast<uint16_t>(name.size()), name.constData());
+    auto *reply = xcb_intern_atom_reply(connection, cookie, nullptr);
+    const XcbReply owner(reply, std::free);
+    return reply ? reply->atom : static_cast<xcb_atom_t>(XCB_ATOM_NONE);
+}
+
+/// An XEmbed tray owns the selection named after its screen.
+static bool HasXEmbedTray()
+{
+    xcb_connection_t *connection = XcbConnection();
+    if (!connection) {
+        return false;
+    }
+    char *host = nullptr;
+    int nDisplay = 0;
+    int nScreen = 0;
+    xcb_parse_display(nullptr, &host, &nDisplay, &nScreen);
+    std::free(host);
+    const xcb_atom_t selection = XcbAtom("_NET_SYSTEM_TRAY_S" + QByteArray::number(nScreen));
+    auto *reply =
+        xcb_get_selection_owner_reply(connection, xcb_get_selection_owner(connection, selection), nullptr);
+    const XcbReply owner(reply, std::free);
+    return reply && reply->owner != XCB_WINDOW_NONE;
+}
+
+/// The same question that Qt asks before it decides for StatusNotifierItem: a watcher alone, with no host to
+/// show the icons, does not count.
+static QDBusMessage HostQuestion()
+{
+    auto question = QDBusMessage::createMethodCall(watcherService, QStringLiteral("/StatusNotifierWatcher"),
+                                                   QStringLiteral("org.freedesktop.DBus.Properties"),
+                                                   QStringLiteral("Get"));
+    question.setArguments({watcherService, QStringLiteral("IsStatusNotifierHostRegistered")});
+    question.setAutoStartService(false);
+    return question;
+}
+
+static bool IsYes(const QDBusMessage &reply)
+{
+    return reply.type() == QDBusMessage::ReplyMessage &&
+           reply.arguments().value(0).value<QDBusVariant>().variant().toBool();
+}
+
+/// Waits, without a timer, for a tray of either kind to announce itself.
+class TrayWatch : public QObject, public QAbstractNativeEventFilter
+{
+    Q_OBJECT
+
+public:
+    TrayWatch(std::function<void()> whenReady, QObject *parent)
+        : QObject(parent), ready(std::move(whenReady)), managerAtom(XcbConnection() ? XcbAtom("MANAGER") : 0)
+    {
+        QDBusConnection bus = QDBusConnection::sessionBus();
+        auto *watcher =
+            new QDBusServiceWatcher(watcherService, bus, QDBusServiceWatcher::WatchForRegistration, this);
+        connect(watcher, SIGNAL(serviceRegistered(QString)), this, SLOT(Check()));
+        bus.connect(QString(), QStringLiteral("/StatusNotifierWatcher"), watcherService,
+                    QStringLiteral("StatusNotifierHostRegistered"), this, SLOT(Check()));
+        if (managerAtom) {
+            qGuiApp->installNativeEventFilter(this);
+        }
+    }
+
+    bool nativeEventFilter(const QByteArray &, void *message, qintptr *) override
+    {
+        // Sent to the root window, whose structure events Qt has asked for, by each new owner of such a
+        // selection.
+        const auto *event = static_cast<const xcb_client_message_event_t *>(message);
+        if ((event->response_type & 0x7f) == XCB_CLIENT_MESSAGE && event->type == managerAtom) {
+            QMetaObject::invokeMethod(this, "Check", Qt::QueuedConnection);
+        }
+        return false;
+    }
+
+public slots:
+    void Check()
+    {
+        if (HasXEmbedTray()) {
+            OnFound();
+            return;
+        }
+        auto *answer =
+            new QDBusPendingCallWatcher(QDBusConnection::sessionBus().asyncCall(HostQuestion()), this);
+        connect(answer, &QDBusPendingCallWatcher::finished, this, [this, answer] {
+            answer->deleteLater();
+            if (IsYes(answer->reply())) {
+                OnFound();
+            }
+        });
+    }
+
+private:
+    void OnFound()
+    {
+        if (ready) {
+            deleteLater();
+            std::exchange(ready, nullptr)();
+        }
+    }
+
+    std::function<void()> ready;
+    xcb_atom_t managerAtom;
+};
+
+TrayHost::TrayHost(QObject *parent) : QObject(parent) {}
+
+void TrayHost::WhenAvailable(std::function<void()> ready)
+{
+    // The cheaper question first. Where both kinds are there, Qt takes StatusNotifierItem by itself.
+    if (HasXEmbedTray() ||
+        IsYes(QDBusConnection::sessionBus().call(HostQuestion(), QDBus::Block, msPatience))) {
+        ready();
+        return;
+    }
+    auto *watch = new TrayWatch(std::move(ready), this);
+    QTimer::singleShot(msUntilAbsent, watch, [this] { emit Absent(); });
+    // It may have come just before we began to listen, or be slow to answer.
+    watch->Check();
+}
+
+void TrayHost::Attach(QSystemTrayIcon *icon)
+{
+    connect(icon, &QSystemTrayIcon::activated, this, [this](QSystemTrayIcon::ActivationReason reason) {
+        if (reason == QSystemTrayIcon::Trigger || reason == QSystemTrayIcon::DoubleClick) {
+            emit Clicked();
+        }
+    });
+}
+
+#include "TrayHostLinux.moc"

@@ -1,0 +1,3 @@
+#include "platform/Global.h"
+
+const QString Global::VersionString = QStringLiteral("1.2.2");
