@@ -1,0 +1,90 @@
+// The main window under the mouse: dragging by its body, and the close mark of the frameless window.
+
+#include "mainwindow/MainDialog.h"
+#include "platform/WindowPlacement.h"
+
+#include <QMouseEvent>
+#include <QPainter>
+
+void MainDialog::paintEvent(QPaintEvent *event)
+{
+    // Qt and the style sheet paint the dark style's half-transparent ground more than once, one over the
+    // other; this is it.
+    QPainter painter(this);
+    painter.setCompositionMode(QPainter::CompositionMode_Source);
+    painter.fillRect(rect(), palette().brush(QPalette::Window));
+    painter.end();
+    QFrame::paintEvent(event);
+    if (!bHover || !windowFlags().testFlag(Qt::FramelessWindowHint)) {
+        return;
+    }
+
+    painter.begin(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(QColor(165, 165, 165, 255));
+    painter.drawEllipse(rectClose);
+
+    const QPointF c = rectClose.center();
+    painter.setPen(QPen(palette().brush(QPalette::Window), 2.0, Qt::SolidLine, Qt::SquareCap, Qt::BevelJoin));
+    painter.drawLine(c + QPointF(-2.5, -2.5), c + QPointF(2.5, 2.5));
+    painter.drawLine(c + QPointF(-2.5, 2.5), c + QPointF(2.5, -2.5));
+}
+
+void MainDialog::mousePressEvent(QMouseEvent *event)
+{
+    if (event->button() != Qt::LeftButton) {
+        return;
+    }
+    ptDragOffset = event->globalPosition().toPoint() - frameGeometry().topLeft();
+    event->accept();
+    const bool bOnCloseMark =
+        windowFlags().testFlag(Qt::FramelessWindowHint) && rectClose.contains(event->position());
+    // Handed over to the compositor, the press would never come back as a click on the mark.
+    if (!bOnCloseMark || WindowPlacement::CanPlace()) {
+        placement->StartDrag();
+    }
+}
+
+void MainDialog::mouseMoveEvent(QMouseEvent *event)
+{
+    if (event->buttons().testFlag(Qt::LeftButton)) {
+        move(event->globalPosition().toPoint() - ptDragOffset);
+        bHover = true;
+        event->accept();
+    }
+}
+
+void MainDialog::mouseReleaseEvent(QMouseEvent *event)
+{
+    // A drag that ends over the mark hides the window too.
+    if (windowFlags().testFlag(Qt::FramelessWindowHint) && event->button() == Qt::LeftButton &&
+        rectClose.contains(event->position())) {
+        hide();
+        event->accept();
+    }
+}
+
+void MainDialog::enterEvent(QEnterEvent *event)
+{
+    SetHover(true);
+    QFrame::enterEvent(event);
+}
+
+void MainDialog::leaveEvent(QEvent *event)
+{
+    SetHover(false);
+    QFrame::leaveEvent(event);
+}
+
+void MainDialog::SetHover(bool bOver)
+{
+    bHover = bOver;
+    update();
+}
+
+void MainDialog::closeEvent(QCloseEvent *)
+{
+    // Accepted as it comes: the window only hides, since the program does not end with its last window.
+    // Ignoring it would veto quitting.
+}

@@ -1,0 +1,30 @@
+#include "stats/PieSlices.h"
+
+#include "stats/ByteCount.h"
+
+#include <algorithm>
+
+namespace {
+
+/// A share of the whole, cut towards zero. Bounded, so that the three spans of a senseless record still add
+/// up in an int.
+int Span(qlonglong value, double whole)
+{
+    constexpr double limit = 1 << 28;
+    const double span = static_cast<double>(MultiplyBytes(value, PieSlices::FullCircle)) / whole;
+    return static_cast<int>(std::clamp(span, -limit, limit));
+}
+
+} // namespace
+
+std::optional<PieSlices> SlicesOf(const QVariantMap &stats)
+{
+    const auto bytes = [&](const char *key) { return stats.value(QLatin1String(key)).toLongLong(); };
+    const qlonglong free = bytes("Free");
+    const qlonglong sum = AddBytes(free, bytes("Used"));
+    if (sum == 0) {
+        return std::nullopt;
+    }
+    const auto whole = static_cast<double>(sum);
+    return PieSlices{Span(free, whole), Span(bytes("Inactive"), whole), Span(bytes("Active"), whole)};
+}
