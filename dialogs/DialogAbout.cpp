@@ -1,0 +1,48 @@
+#include "dialogs/DialogAbout.h"
+
+#include "dialogs/Links.h"
+#include "platform/Global.h"
+#include "ui_DialogAbout.h"
+
+#include <QDebug>
+#include <QDesktopServices>
+
+DialogAbout::DialogAbout(QWidget *parent) : QDialog(parent), ui(new Ui_DialogAbout)
+{
+    ui->setupUi(this);
+    setStyleSheet("font-size:12pt;");
+    ui->labelAppTitle->setStyleSheet("font-size:14pt;font-weight:bold;");
+    setWindowFlags(windowFlags() | Qt::WindowStaysOnTopHint);
+    const QString name = QCoreApplication::applicationName().replace('-', ' ');
+    setWindowTitle(tr("About") + ' ' + name);
+    ui->labelAppTitle->setText(name);
+    ui->labelVersion->setText(tr("version %1").arg(Global::VersionString));
+    // The form holds the wording, Links the address.
+    ui->label_4->setText(ui->label_4->text().arg(Links::MakerPage().toString()));
+}
+
+DialogAbout::~DialogAbout()
+{
+    delete ui;
+}
+
+void DialogAbout::Show()
+{
+    setVisible(true);
+}
+
+void DialogAbout::OnFeedback()
+{
+    QDesktopServices::openUrl(Links::ReviewPage());
+    hide();
+}
+
+void DialogAbout::OnError(const QString &text)
+{
+    qDebug().noquote() << '"' + text + '"';
+}
+
+void DialogAbout::showEvent(QShowEvent *event)
+{
+    QDialog::showEvent(event);
+}

@@ -1,0 +1,76 @@
+#include "dialogs/DialogPreferences.h"
+
+#include "ui_DialogPreferences.h"
+
+DialogPreferences::DialogPreferences(QWidget *parent) : QFrame(parent), ui(new Ui_DialogPreferences)
+{
+    ui->setupUi(this);
+
+    // A change of style toggles both radio buttons and so is announced twice; the receiver rereads everything
+    // anyway.
+    connect(ui->checkBoxAutoHide, SIGNAL(toggled(bool)), this, SIGNAL(SettingChanged()));
+    connect(ui->checkBoxAutoLaunch, SIGNAL(toggled(bool)), this, SIGNAL(SettingChanged()));
+    connect(ui->checkBoxStayOnTop, SIGNAL(toggled(bool)), this, SIGNAL(SettingChanged()));
+    connect(ui->radioButtonStyleClassic, SIGNAL(toggled(bool)), this, SIGNAL(SettingChanged()));
+    connect(ui->radioButtonStyleDark, SIGNAL(toggled(bool)), this, SIGNAL(SettingChanged()));
+    connect(ui->checkBoxPieChartIcon, SIGNAL(toggled(bool)), this, SIGNAL(SettingChanged()));
+    connect(ui->checkBoxRemind, SIGNAL(toggled(bool)), this, SIGNAL(SettingChanged()));
+    connect(ui->doubleSpinBoxThreshold, SIGNAL(valueChanged(double)), this, SIGNAL(SettingChanged()));
+    connect(ui->checkBoxNoTitleBar, SIGNAL(toggled(bool)), this, SIGNAL(SettingChanged()));
+    connect(ui->checkBoxMonoColor, SIGNAL(toggled(bool)), this, SIGNAL(SettingChanged()));
+    connect(ui->checkBoxHideAtStartUp, SIGNAL(toggled(bool)), this, SIGNAL(SettingChanged()));
+    connect(ui->comboBoxFrequency, SIGNAL(currentIndexChanged(int)), this, SIGNAL(SettingChanged()));
+}
+
+DialogPreferences::~DialogPreferences()
+{
+    delete ui;
+}
+
+void DialogPreferences::SetSettings(const QMap<QString, QVariant> &settings)
+{
+    const QList<QWidget *> widgets = findChildren<QWidget *>();
+    for (QWidget *widget : widgets) {
+        widget->blockSignals(true);
+    }
+
+    const bool bRemind = settings.value("Remind").toBool();
+    const bool bPieChartIcon = settings.value("PieChartIcon").toBool();
+    const bool bDark = settings.value("WindowStyle").toInt() != 0;
+    ui->checkBoxAutoHide->setChecked(settings.value("AutoHide").toBool());
+    ui->checkBoxAutoLaunch->setChecked(settings.value("AutoLaunch").toBool());
+    ui->checkBoxStayOnTop->setChecked(settings.value("StayOnTop").toBool());
+    ui->radioButtonStyleClassic->setChecked(!bDark);
+    ui->radioButtonStyleDark->setChecked(bDark);
+    ui->checkBoxPieChartIcon->setChecked(bPieChartIcon);
+    ui->checkBoxMonoColor->setChecked(settings.value("MonoColor").toBool());
+    ui->checkBoxRemind->setChecked(bRemind);
+    ui->doubleSpinBoxThreshold->setValue(settings.value("RemindThreshold").toDouble());
+    ui->checkBoxNoTitleBar->setChecked(settings.value("NoTitleBar").toBool());
+    ui->checkBoxHideAtStartUp->setChecked(settings.value("HideAtStartUp").toBool());
+    ui->comboBoxFrequency->setCurrentIndex(settings.value("UpdateFrequency").toInt() != 0 ? 1 : 0);
+    // By hand what the form's connections do otherwise: they were blocked too.
+    ui->doubleSpinBoxThreshold->setEnabled(bRemind);
+    ui->checkBoxMonoColor->setVisible(bPieChartIcon);
+
+    for (QWidget *widget : widgets) {
+        widget->blockSignals(false);
+    }
+}
+
+QMap<QString, QVariant> DialogPreferences::GetSettings() const
+{
+    QMap<QString, QVariant> settings;
+    settings.insert("AutoHide", ui->checkBoxAutoHide->isChecked());
+    settings.insert("AutoLaunch", ui->checkBoxAutoLaunch->isChecked());
+    settings.insert("StayOnTop", ui->checkBoxStayOnTop->isChecked());
+    settings.insert("WindowStyle", ui->radioButtonStyleClassic->isChecked() ? 0 : 1);
+    settings.insert("PieChartIcon", ui->checkBoxPieChartIcon->isChecked());
+    settings.insert("MonoColor", ui->checkBoxMonoColor->isChecked());
+    settings.insert("Remind", ui->checkBoxRemind->isChecked());
+    settings.insert("RemindThreshold", ui->doubleSpinBoxThreshold->value());
+    settings.insert("NoTitleBar", ui->checkBoxNoTitleBar->isChecked());
+    settings.insert("HideAtStartUp", ui->checkBoxHideAtStartUp->isChecked());
+    settings.insert("UpdateFrequency", ui->comboBoxFrequency->currentIndex());
+    return settings;
+}

@@ -1,0 +1,26 @@
+#pragma once
+
+#include <QDialog>
+
+class Ui_DialogReminder;
+
+/// Asks whether to free memory now, above all other windows. "No" and Escape are the dialog's own rejected();
+/// the two other buttons only hide it, so that they count neither as accepted nor as rejected.
+class DialogReminder : public QDialog
+{
+    Q_OBJECT
+
+public:
+    explicit DialogReminder(QWidget *parent);
+    ~DialogReminder() override;
+
+    /// Sets the question, as plain or rich text.
+    void SetMessage(const QString &message);
+
+signals:
+    void Accepted();    ///< "Yes", after the dialog has been hidden.
+    void DoNotRemind(); ///< "Do Not Remind Me", after the dialog has been hidden.
+
+private:
+    Ui_DialogReminder *ui;
+};
