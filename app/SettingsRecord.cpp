@@ -1,0 +1,57 @@
+#include "app/SettingsRecord.h"
+
+#include <QSettings>
+
+namespace {
+
+const QString settingsKey = QStringLiteral("Application/Settings");
+
+bool Flag(const QVariantMap &record, const char *key)
+{
+    return record.value(QLatin1String(key)).toBool();
+}
+
+} // namespace
+
+void AddDefaultSettings(QVariantMap &record)
+{
+    static const std::pair<const char *, QVariant> defaults[] = {
+        {"AutoLaunch", false}, {"StayOnTop", true},    {"AutoHide", false}, {"HideAtStartUp", false},
+        {"WindowStyle", 0},    {"PieChartIcon", true}, {"Remind", false},   {"RemindThreshold", 1.0},
+        {"NoTitleBar", false}, {"UpdateFrequency", 0},
+    };
+    for (const auto &[key, value] : defaults) {
+        if (!record.contains(QLatin1String(key))) {
+            record.insert(QLatin1String(key), value);
+        }
+    }
+}
+
+QVariantMap LoadSettings()
+{
+    QVariantMap record = QSettings().value(settingsKey).toMap();
+    AddDefaultSettings(record);
+    return record;
+}
+
+void SaveSettings(const QVariantMap &record)
+{
+    QSettings settings;
+    if (!settings.contains(settingsKey) || settings.value(settingsKey).toMap() != record) {
+        settings.setValue(settingsKey, record);
+    }
+}
+
+bool NeedsWindowFlags(const QVariantMap &newRecord, const QVariantMap &oldRecord, bool bWindowVisible)
+{
+    return Flag(newRecord, "NoTitleBar") != Flag(oldRecord, "NoTitleBar") ||
+           Flag(newRecord, "StayOnTop") != Flag(oldRecord, "StayOnTop") || !bWindowVisible;
+}
+
+Qt::WindowFlags MainWindowFlags(const QVariantMap &record)
+{
+    Qt::WindowFlags flags = Qt::WindowSystemMenuHint;
+    flags.setFlag(Qt::WindowStaysOnTopHint, Flag(record, "StayOnTop"));
+    flags.setFlag(Qt::FramelessWindowHint, Flag(record, "NoTitleBar"));
+    return flags;
+}
