@@ -1,0 +1,14 @@
+# kelvo_test(NAME LIBRARY SOURCES...): a QtTest program in a bundle of its own (BUILD/tests/NAME/bin/NAME with an empty
+# Resources beside bin), so that a test can put interpreters and helpers where the program looks for them while other
+# tests run. HOME, settings and runtime directory are private to the test, the language is fixed.
+function(kelvo_test name library)
+    set(bundle "${CMAKE_BINARY_DIR}/tests/${name}")
+    add_executable(${name} ${ARGN})
+    set_target_properties(${name} PROPERTIES RUNTIME_OUTPUT_DIRECTORY "${bundle}/bin")
+    target_link_libraries(${name} PRIVATE ${library} Qt6::Test)
+    file(MAKE_DIRECTORY "${bundle}/Resources" "${bundle}/home" "${bundle}/run")
+    file(CHMOD "${bundle}/run" PERMISSIONS OWNER_READ OWNER_WRITE OWNER_EXECUTE)
+    add_test(NAME ${name} COMMAND ${name})
+    set_tests_properties(${name} PROPERTIES TIMEOUT 120 ENVIRONMENT
+        "HOME=${bundle}/home;XDG_CONFIG_HOME=${bundle}/home/.config;XDG_RUNTIME_DIR=${bundle}/run;QT_QPA_PLATFORM=offscreen;LC_ALL=C.UTF-8;TSAN_OPTIONS=die_after_fork=0")
+endfunction()
