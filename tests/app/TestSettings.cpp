@@ -1,0 +1,144 @@
+// The settings record in storage, and the pure rules that read it.
+
+#include "app/ReminderRule.h"
+#include "app/SettingsRecord.h"
+#include "tests/support/FailOnWarnings.h"
+
+#include <QDir>
+#include <QSettings>
+
+class TestSettings : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void initTestCase();
+    void init();
+    void defaults();
+    void recordRoundTrips();
+    void hostileFiles_data();
+    void hostileFiles();
+    void windowFlags_data();
+    void windowFlags();
+    void reminderIsDue_data();
+    void reminderIsDue();
+};
+
+void TestSettings::initTestCase()
+{
+    QCoreApplication::setOrganizationName(QStringLiteral("Orvanta"));
+    QCoreApplication::setApplicationName(QStringLiteral("Kelvo"));
+}
+
+void TestSettings::init()
+{
+    FailOnWarnings();
+    QFile::remove(QSettings().fileName());
+}
+
+void TestSettings::defaults()
+{
+    const QVariantMap record = LoadSettings();
+    QCOMPARE(record.size(), 10); // MonoColor has none
+    QCOMPARE(record[QStringLiteral("StayOnTop")], QVariant(true));
+    QCOMPARE(record[QStringLiteral("PieChartIcon")], QVariant(true));
+    QCOMPARE(record[QStringLiteral("WindowStyle")].typeId(), int(QMetaType::Int));
+    QCOMPARE(record[QStringLiteral("RemindThreshold")], QVariant(1.0));
+    QCOMPARE(record[QStringLiteral("RemindThreshold")].typeId(), int(QMetaType::Double));
+
+    QVariantMap partial{{QStringLiteral("StayOnTop"), QStringLiteral("false")}, {QStringLiteral("New"), 1}};
+    AddDefaultSettings(partial);
+    QCOMPARE(partial[QStringLiteral("StayOnTop")], QVariant(QStringLiteral("false")));
+    QCOMPARE(partial.size(), 11);
+}
+
+void TestSettings::recordRoundTrips()
+{
+    QVariantMap record = LoadSettings();
+    record[QStringLiteral("RemindThreshold")] = 2.75;
+    record[QStringLiteral("WindowStyle")] = 2;
+    record[QStringLiteral("MonoColor")] = true;
+    SaveSettings(record);
+    QCOMPARE(LoadSettings(), record); // values and types
+}
+
+void TestSettings::hostileFiles_data()
+{
+    QTest::addColumn<QByteArray>("content");
+    QTest::newRow("empty") << QByteArray("");
+    QTest::newRow("binary") << QByteArray("\0\xff\x01[[[\n=\n", 9).repeated(1000);
+    QTest::newRow("another type") << QByteArray("[Application]\nSettings=hello\n");
+    QTest::newRow("a list") << QByteArray("[Application]\nSettings=1, 2, 3\n");
+    QTest::newRow("truncated map") << QByteArray(
+        "[Application]\nSettings=@Variant(\\0\\0\\0\\b\\0\\0\\0\\x3\\0\\0\\0\\x1\n");
+    QTest::newRow("map of four billion")
+        << QByteArray("[Application]\nSettings=@Variant(\\0\\0\\0\\b\\xff\\xff\\xff\\xfe)\n");
+    QTest::newRow("unknown type") << QByteArray("[Application]\nSettings=@Variant(\\0\\0\\xff\\b\\0\\0)\n");
+}
+
+void TestSettings::hostileFiles()
+{
+    QFETCH(QByteArray, content);
+    QFile file(QSettings().fileName());
+    QVERIFY(QDir().mkpath(QFileInfo(file).path()) && file.open(QIODevice::WriteOnly));
+    file.write(content);
+    file.close();
+    if (content.contains("xff\\b")) {
+        QTest::ignoreMessage(QtWarningMsg,
+                             QRegularExpression(QStringLiteral("^Trying to construct an instance")));
+    }
+    QVariantMap expected;
+    AddDefaultSettings(expected);
+    QCOMPARE(LoadSettings(), expected);
+}
+
+void TestSettings::windowFlags_data()
+{
+    QTest::addColumn<bool>("bNoTitleBar");
+    QTest::addColumn<bool>("bStayOnTop");
+    QTest::addColumn<int>("extra");
+    QTest::newRow("plain") << false << false << 0;
+    QTest::newRow("frameless") << true << false << int(Qt::FramelessWindowHint);
+    QTest::newRow("on top") << false << true << int(Qt::WindowStaysOnTopHint);
+    QTest::newRow("both") << true << true << int(Qt::FramelessWindowHint | Qt::WindowStaysOnTopHint);
+}
+
+void TestSettings::windowFlags()
+{
+    QFETCH(bool, bNoTitleBar);
+    QFETCH(bool, bStayOnTop);
+    QFETCH(int, extra);
+    const QVariantMap record{{QStringLiteral("NoTitleBar"), bNoTitleBar},
+                             {QStringLiteral("StayOnTop"), bStayOnTop}};
+    QCOMPARE(MainWindowFlags(record).toInt(), int(Qt::WindowSystemMenuHint) | extra);
+    QVERIFY(!NeedsWindowFlags(record, record, true));
+    QVERIFY(NeedsWindowFlags(record, record, false));
+    QCOMPARE(NeedsWindowFlags(record, {}, true), extra != 0);
+}
+
+void TestSettings::reminderIsDue_data()
+{
+    QTest::addColumn<QVariant>("threshold");
+    QTest::addColumn<qlonglong>("nInactive");
+    QTest::addColumn<bool>("bDue");
+    QTest::newRow("at the threshold") << QVariant(1.0) << 1073741824LL << false;
+    QTest::newRow("a byte above") << QVariant(1.0) << 1073741825LL << true;
+    QTest::newRow("half a gigabyte") << QVariant(0.5) << 536870913LL << true;
+    QTest::newRow("as stored text") << QVariant(QStringLiteral("0.5")) << 536870912LL << false;
+    QTest::newRow("no threshold") << QVariant() << 1LL << true;
+    QTest::newRow("nothing inactive") << QVariant() << 0LL << false;
+}
+
+void TestSettings::reminderIsDue()
+{
+    QFETCH(QVariant, threshold);
+    QFETCH(qlonglong, nInactive);
+    const QVariantMap stats{{QStringLiteral("Inactive"), nInactive}};
+    QVariantMap record{{QStringLiteral("RemindThreshold"), threshold}};
+    QVERIFY(!IsReminderDue(record, stats)); // not asked for
+    record[QStringLiteral("Remind")] = true;
+    QTEST(IsReminderDue(record, stats), "bDue");
+}
+
+QTEST_GUILESS_MAIN(TestSettings)
+#include "TestSettings.moc"

@@ -1,0 +1,30 @@
+#pragma once
+
+#include <QDir>
+#include <QFile>
+#include <QTemporaryDir>
+
+/// A directory of files made for a test, such as a proc directory that says what the test needs.
+class TemporaryTree
+{
+public:
+    /// Writes a file and the directories above it.
+    void Write(const QString &path, const QByteArray &content) const
+    {
+        const QString file = directory.filePath(path);
+        QDir().mkpath(QFileInfo(file).path());
+        QFile out(file);
+        if (!out.open(QIODevice::WriteOnly) || out.write(content) != content.size()) {
+            qFatal("cannot write %s", qPrintable(file));
+        }
+    }
+    QByteArray Read(const QString &path) const
+    {
+        QFile in(directory.filePath(path));
+        return in.open(QIODevice::ReadOnly) ? in.readAll() : QByteArray();
+    }
+    std::string Path(const QString &path = {}) const { return directory.filePath(path).toStdString(); }
+
+private:
+    QTemporaryDir directory;
+};

@@ -1,0 +1,96 @@
+#pragma once
+
+#include "app/MyApp.h"
+#include "dialogs/DialogPreferences.h"
+#include "dialogs/DialogReminder.h"
+#include "mainwindow/MainDialog.h"
+#include "tests/support/BundledFake.h"
+#include "tests/support/FailOnWarnings.h"
+
+#include <QMenu>
+#include <QSettings>
+
+/// A whole application for one test: the real controller over a fake interpreter whose report the test sets.
+class RunningApp
+{
+public:
+    explicit RunningApp(const QByteArray &report = Report(1000, 20, 30, 7))
+        : app(nArguments, arguments), interpreter(QStringLiteral("osascript"), Script(report))
+    {
+        app.InitializeWidgets();
+    }
+
+    ~RunningApp()
+    {
+        QTest::qWait(
+            100); // a helper that has answered may still be ending, and its process object goes with it
+        delete Window<QMenu>(); // the program never does: its only menu lives until the process ends
+    }
+    Q_DISABLE_COPY_MOVE(RunningApp)
+
+    /// A report with these page counts.
+    static QByteArray Report(int nFree, int nInactive, int nActive, int nWired)
+    {
+        return "Pages free: " + QByteArray::number(nFree) +
+               ".\nPages active: " + QByteArray::number(nActive) +
+               ".\nPages inactive: " + QByteArray::number(nInactive) +
+               ".\nPages wired down: " + QByteArray::number(nWired) + ".";
+    }
+    static QByteArray Script(const QByteArray &report)
+    {
+        return "cat >/dev/null\nprintf '%s' '" + report + "'";
+    }
+
+    /// Sets the report and takes a sample.
+    void Sample(const QByteArray &report)
+    {
+        interpreter.Write(Script(report));
+        Window<MainDialog>()->UpdateStats();
+    }
+
+    template <class T> static T *Window()
+    {
+        const auto windows = QApplication::topLevelWidgets();
+        for (QWidget *window : windows) {
+            if (auto *found = qobject_cast<T *>(window)) {
+                return found;
+            }
+        }
+        return nullptr;
+    }
+    /// A widget of one of the windows, by object name.
+    template <class T> static T *Find(const char *name)
+    {
+        const auto widgets = QApplication::allWidgets();
+        for (QWidget *widget : widgets) {
+            if (widget->objectName() == QLatin1String(name)) {
+                return qobject_cast<T *>(widget);
+            }
+        }
+        return nullptr;
+    }
+
+    /// Forgets everything stored; before the next application is made.
+    static void ForgetSettings()
+    {
+        QFile::remove(QSettings(QStringLiteral("Orvanta"), QStringLiteral("Kelvo")).fileName());
+    }
+    static void Store(const QString &key, const QVariant &value)
+    {
+        QSettings(QStringLiteral("Orvanta"), QStringLiteral("Kelvo")).setValue(key, value);
+    }
+    static QVariant Stored(const QString &key)
+    {
+        return QSettings(QStringLiteral("Orvanta"), QStringLiteral("Kelvo")).value(key);
+    }
+
+private:
+    // Qt wants its arguments to outlive the application.
+    static inline int nArguments = 1;
+    static inline char name[] = "kelvo";
+    static inline char *arguments[] = {name, nullptr};
+
+public:
+    MyApp app;
+    BundledFake interpreter;
+};

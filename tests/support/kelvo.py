@@ -1,0 +1,129 @@
+"""Kelvo as a user meets it: its windows, its settings, its interpreter."""
+import json
+import os
+import shutil
+import signal
+from pathlib import Path
+
+from bus import Gio, wait_for
+
+ACCESSIBLE = "org.a11y.atspi.Accessible"
+STATE_SHOWING = 25  # a bit number
+
+
+class Kelvo:
+    """A Kelvo installed on its own: DIR/bin/kelvo and, beside bin, DIR/Resources, where the tests put their fakes."""
+
+    def __init__(self, desktop, built):
+        self.desktop = desktop
+        self.directory = desktop.home / "app"
+        self.program = self.directory / "bin" / "kelvo"
+        self.resources = self.directory / "Resources"
+        self.program.parent.mkdir(parents=True)
+        self.resources.mkdir()
+        shutil.copy2(built, self.program)
+        self.built_resources = Path(built).parent.parent / "Resources"
+        self.processes = []
+
+    def use_built_resources(self):
+        """The real interpreter and helper, as built."""
+        shutil.copytree(self.built_resources, self.resources, dirs_exist_ok=True)
+
+    def install(self, name, script):
+        """Puts a shell script into Resources as a program; beside and renamed, since an old one may be running."""
+        fresh = self.resources / (name + ".new")
+        fresh.write_text(f"#!/bin/sh\n{script}\n")
+        fresh.chmod(0o755)
+        fresh.replace(self.resources / name)
+
+    def report(self, text):
+        """From here on the interpreter answers with this text, whatever it is asked."""
+        data = text if isinstance(text, bytes) else text.encode()
+        (self.directory / "report.new").write_bytes(data)
+        (self.directory / "report.new").replace(self.directory / "report")
+        self.install("osascript", f"cat >/dev/null; echo >>'{self.directory}/asked'; exec cat '{self.directory}/report'")
+
+    def wait_for_sample(self):
+        """Returns when Kelvo has certainly taken a sample that began after this call (not with another interpreter)."""
+        asked = self.directory / "asked"
+        before = asked.stat().st_size
+        assert wait_for(lambda: asked.stat().st_size >= before + 2), "no sample is taken"
+
+    def start(self, *arguments, **environment):
+        _ = self.desktop.accessibility  # there first, so that this Kelvo knows from the start what we listen to
+        process = self.desktop.spawn(self.program, *arguments, log="kelvo.log", env={**self.desktop.env, **environment})
+        self.processes.append(process)
+        return process
+
+    def run(self, *arguments, seconds=20):
+        """A launch that is expected to end by itself: its exit status."""
+        return self.start(*arguments).wait(seconds)
+
+    def stop(self, how=signal.SIGTERM):
+        """Ends the copy started last: its exit status."""
+        self.processes[-1].send_signal(how)
+        return self.processes[-1].wait(20)
+
+    @property
+    def settings_file(self):
+        return self.desktop.home / ".config/Orvanta/Kelvo.conf"
+
+    def _settings(self, *arguments):
+        return self.desktop.run(os.environ["SETTINGS_TOOL"], self.settings_file, *arguments)
+
+    def settings(self):
+        """What is stored, as {"Application/Settings": {...}, "MainWindow/Position": [x, y], ...}."""
+        return json.loads(self._settings())
+
+    def store(self, record=None, **others):
+        """Stores the settings record and other keys ("MainWindow/Position": [x, y]), as the program would."""
+        self._settings(json.dumps({"Application/Settings": record or {}, **others}))
+
+    # The window, by way of what the desktop offers.
+
+    def window(self, seconds=20.0, name="^Kelvo$"):
+        """The main window's X number, or "" if it is not shown within the time."""
+        find = ["xdotool", "search", "--onlyvisible", "--all", "--pid", self.processes[-1].pid, "--name", name]
+        return wait_for(lambda: self.desktop.run(*find, check=False).strip(), seconds)
+
+    def tray_window(self, seconds=20.0):
+        """The icon's X number in an XEmbed tray, or ""."""
+        return self.window(seconds, name="^$")
+
+    def window_goes(self):
+        """True as soon as the main window is hidden; False if it stays."""
+        return wait_for(lambda: not self.window(0))
+
+    def labels(self):
+        """The window's figures: {"Free": "1.00 GB", ..., "Used": ..., "Total": ...}."""
+        texts = [name for role, name, _ in self.widgets() if role == "label" and name]
+        figures = {name[:-1]: text for name, text in zip(texts, texts[1:]) if name.endswith(":")}
+        return {**figures, "Total": texts[texts.index(figures["Used"], 9) + 1]}
+
+    def popup(self, open_it):
+        """The texts of the menu that open_it() brings up on the screen."""
+        bus, shown = self.desktop.accessibility, []
+        bus.connection.signal_subscribe(None, "org.a11y.atspi.Event.Object", "StateChanged", None, "showing",
+                                        Gio.DBusSignalFlags.NONE, lambda _, *sender: shown.append(sender[:2]))
+        open_it()
+        menu = wait_for(lambda: shown and shown[0])
+        return [bus.get(*child, ACCESSIBLE, "Name") for child in bus.call(*menu, ACCESSIBLE, "GetChildren")[0]]
+
+    def press(self, text):
+        """Presses the button with this text."""
+        at = next(at for role, name, at in self.widgets() if name == text and "button" in role)
+        self.desktop.accessibility.call(*at, "org.a11y.atspi.Action", "DoAction", "(i)", 0)
+
+    def widgets(self):
+        """Everything shown in Kelvo's windows as (role, name, (bus name, path)), by way of the accessibility bus."""
+        bus, root = self.desktop.accessibility, "/org/a11y/atspi/accessible/root"
+
+        def walk(name, path):
+            for child in bus.call(name, path, ACCESSIBLE, "GetChildren")[0]:
+                if not bus.call(*child, ACCESSIBLE, "GetState")[0][0] >> STATE_SHOWING & 1:
+                    continue
+                yield bus.call(*child, ACCESSIBLE, "GetRoleName")[0], bus.get(*child, ACCESSIBLE, "Name"), child
+                yield from walk(*child)
+
+        applications = wait_for(lambda: bus.call("org.a11y.atspi.Registry", root, ACCESSIBLE, "GetChildren")[0])
+        return list(walk(*applications[-1]))
