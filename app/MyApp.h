@@ -68,13 +68,12 @@ private:
     bool bRemindSuppressed = false;
     QVariantMap settings;
 
-    /// What the status icon shows, so that a sample that would give the same pixels sets nothing; empty: the
-    /// plain icon.
+    /// What the status icon shows, so that a sample that would look the same sets nothing; empty: the plain
+    /// icon.
     struct PieIcon
     {
         PieSlices slices;
         bool bMono;
-        bool operator==(const PieIcon &) const = default;
     };
     std::optional<PieIcon> pieShown;
 };

@@ -103,13 +103,13 @@ void MyApp::UpdateIcon(const QVariantMap &stats)
     if (!trayIcon || !slices || !settings[QStringLiteral("PieChartIcon")].toBool()) {
         return;
     }
-    // Setting an icon ships its pixels over the bus, so the same pie is not set again. The black-and-white
-    // one shows free memory only.
+    // Drawing an icon and having a panel show it costs more than taking the sample, so it is done when there
+    // is something to see. The black-and-white one shows free memory only.
     const bool bMono = settings[QStringLiteral("MonoColor")].toBool();
-    const PieIcon pie{bMono ? PieSlices{slices->nFree} : *slices, bMono};
-    if (pie != pieShown) {
-        trayIcon->setIcon(QIcon(pie.bMono ? DrawMonoPie(pie.slices) : DrawColorPie(pie.slices)));
-        pieShown = pie;
+    const PieSlices pie = bMono ? PieSlices{slices->nFree} : *slices;
+    if (!pieShown || pieShown->bMono != bMono || !pie.LooksLike(pieShown->slices)) {
+        trayIcon->setIcon(QIcon(bMono ? DrawMonoPie(pie) : DrawColorPie(pie)));
+        pieShown = {pie, bMono};
     }
 }
 

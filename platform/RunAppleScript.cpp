@@ -1,6 +1,6 @@
-#include "platform/BundledResources.h"
 #include "platform/Global.h"
 
+#include <QCoreApplication>
 #include <QDateTime>
 #include <QFileInfo>
 #include <QProcess>
@@ -25,7 +25,7 @@ QString Interpreter()
     if (IsUsable(QFileInfo(system))) {
         return system;
     }
-    QString bundled = Global::BundledResourcesDirectory() + QStringLiteral("/osascript");
+    QString bundled = QCoreApplication::applicationDirPath() + QStringLiteral("/../Resources/osascript");
     return IsUsable(QFileInfo(bundled)) ? bundled : QString();
 }
 

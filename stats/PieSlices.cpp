@@ -3,6 +3,7 @@
 #include "stats/ByteCount.h"
 
 #include <algorithm>
+#include <cstdlib>
 
 namespace {
 
@@ -16,6 +17,13 @@ int Span(qlonglong value, double whole)
 }
 
 } // namespace
+
+bool PieSlices::LooksLike(const PieSlices &other) const
+{
+    const auto near = [](int n, int nOther) { return std::abs(n - nOther) <= FullCircle / 1000; };
+    return near(InactiveStart(), other.InactiveStart()) && near(ActiveStart(), other.ActiveStart()) &&
+           near(WiredStart(), other.WiredStart());
+}
 
 std::optional<PieSlices> SlicesOf(const QVariantMap &stats)
 {

@@ -23,6 +23,10 @@ struct PieSlices
     /// for figures that make no sense together.
     int WiredSpan() const { return TwelveOClock + FullCircle - WiredStart(); }
 
+    /// Whether an icon of these slices cannot be told from one of the others by eye: no border is off by a
+    /// thousandth of the circle, which is less than a tenth of a pixel in any panel.
+    bool LooksLike(const PieSlices &other) const;
+
     bool operator==(const PieSlices &) const = default;
 };
 

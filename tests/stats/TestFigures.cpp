@@ -24,6 +24,7 @@ private slots:
     void slices_data();
     void slices();
     void noSlicesOfNothing();
+    void lookAlikes();
 };
 
 void TestFigures::init()
@@ -181,6 +182,16 @@ void TestFigures::noSlicesOfNothing()
 {
     QVERIFY(!SlicesOf({}));
     QVERIFY(!SlicesOf({{QStringLiteral("Free"), 5LL}, {QStringLiteral("Used"), -5LL}}));
+}
+
+void TestFigures::lookAlikes()
+{
+    const PieSlices pie{1000, 1000, 1000};
+    QVERIFY(pie.LooksLike({1005, 1000, 995}));
+    QVERIFY(pie.LooksLike({995, 1010, 990}));
+    QVERIFY(!pie.LooksLike({1006, 994, 1000}));
+    QVERIFY(!pie.LooksLike({1000, 994, 1006}));
+    QVERIFY(!pie.LooksLike({1002, 1002, 1002}));
 }
 
 QTEST_GUILESS_MAIN(TestFigures)
