@@ -40,6 +40,18 @@ std::string Unescaped(std::string_view value)
     return text;
 }
 
+/// A line by which some desktop, or a user with an editor, says "do not start this". Older files write 1 and
+/// 0.
+bool IsOff(std::string_view key, std::string_view value)
+{
+    const auto isOneOf = [](std::string_view text, std::initializer_list<std::string_view> known) {
+        return std::ranges::find(known, text) != known.end();
+    };
+    return key == "Hidden" ? isOneOf(value, {"true", "True", "TRUE", "1"})
+                           : isOneOf(key, {"X-GNOME-Autostart-enabled", "X-MATE-Autostart-enabled"}) &&
+                                 isOneOf(value, {"false", "False", "FALSE", "0"});
+}
+
 /// Well formed as UTF-8 encodes: no stray or missing continuation byte, nothing overlong, no surrogate.
 bool IsUtf8(std::string_view text)
 {
@@ -89,8 +101,7 @@ DesktopEntry ParseDesktopEntry(std::string_view text)
             entry.name = Unescaped(value);
         } else if (key == "Exec" && entry.exec.empty()) {
             entry.exec = value;
-        } else if ((key == "Hidden" && value == "true") ||
-                   (key == "X-GNOME-Autostart-enabled" && value == "false")) {
+        } else if (IsOff(key, value)) {
             entry.bSwitchedOff = true;
         }
     }
@@ -99,7 +110,7 @@ DesktopEntry ParseDesktopEntry(std::string_view text)
 
 bool IsExecutableName(std::string_view program)
 {
-    const auto bad = [](char c) { return (c >= 0 && c < ' ') || c == 0x7F || c == '=' || c == '\\'; };
+    const auto bad = [](char c) { return (c >= 0 && c < ' ') || c == 0x7F || c == '='; };
     return IsUtf8(program) && std::ranges::none_of(program, bad);
 }
 
@@ -107,7 +118,7 @@ std::string ExecValue(const std::string &program)
 {
     std::string quoted = "\"";
     for (const char c : program) {
-        if (c == '"' || c == '`' || c == '$') {
+        if (c == '"' || c == '`' || c == '$' || c == '\\') {
             quoted += '\\';
         }
         quoted += c == '%' ? "%%" : std::string(1, c);

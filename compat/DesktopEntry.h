@@ -14,9 +14,9 @@ struct DesktopEntry
 /// Reads the text of a desktop entry; of a line that stands there twice the first counts.
 DesktopEntry ParseDesktopEntry(std::string_view text);
 
-/// Whether every reader of desktop entries would start this program. The format has no way to write an equals
-/// sign, and readers differ on control characters and on backslashes (systemd 252 unescapes them once more
-/// than GLib).
+/// Whether readers of desktop entries would start this program. The format has no way to write an equals
+/// sign, and readers differ on control characters. (On backslashes too, but only in that systemd 252 refuses
+/// the entry, and says so in its log.)
 bool IsExecutableName(std::string_view program);
 
 /// The value of an Exec line that starts this program without arguments.

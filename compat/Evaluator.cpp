@@ -5,64 +5,35 @@
 
 #include <algorithm>
 
-namespace {
-
-const std::string truth = "true";
-const std::string untruth = "false";
-
-Failure NoSuchItem(const std::string &name)
-{
-    return {CannotGet, "Can't get login item \"" + name + "\"."};
-}
-
-} // namespace
-
 Value Evaluator::Run(const Node &node)
 {
     switch (node.kind) {
     case NodeKind::Block:
-    case NodeKind::Tell:
-        return RunFrom(node, 0);
-    case NodeKind::If:
-        return If(node);
+        return RunChildren(node);
     case NodeKind::DoShellScript:
         return DoShellScript(node);
-    case NodeKind::Text:
-        return node.text;
-    case NodeKind::LoginItem:
-        return GetLoginItem(node);
-    case NodeKind::EveryLoginItem:
-        return GetEveryLoginItem(node);
-    case NodeKind::Exists:
-        return Exists(node) ? truth : untruth;
+    case NodeKind::NameOfEveryLoginItem:
+        return NameOfEveryLoginItem(node);
+    case NodeKind::IfLoginItemExists:
+        return IfLoginItemExists(node);
     case NodeKind::MakeLoginItem:
         return MakeItem(node);
     case NodeKind::DeleteLoginItem:
-        return DeleteItem(node);
+        FailSystemEvents(node, DeleteLoginItem(node.text));
+        break;
     }
     return std::nullopt;
 }
 
-Value Evaluator::RunFrom(const Node &node, std::size_t nFirst)
+Value Evaluator::RunChildren(const Node &node)
 {
     Value last;
-    for (std::size_t child = nFirst; child < node.children.size() && !error; ++child) {
-        last = Run(node.children[child]);
+    for (const Node &child : node.children) {
+        if (!error) {
+            last = Run(child);
+        }
     }
     return last;
-}
-
-Value Evaluator::If(const Node &node)
-{
-    const Value condition = Run(node.children.front());
-    if (condition == truth) {
-        return RunFrom(node, 1);
-    }
-    if (condition != untruth) {
-        Fail(node.children.front(),
-             {CannotCoerce, "Can't make \"" + condition.value_or("") + "\" into type boolean."});
-    }
-    return std::nullopt;
 }
 
 Value Evaluator::DoShellScript(const Node &node)
@@ -72,30 +43,22 @@ Value Evaluator::DoShellScript(const Node &node)
     return output;
 }
 
-Value Evaluator::GetLoginItem(const Node &node)
-{
-    if (!Exists(node)) {
-        FailSystemEvents(node, NoSuchItem(node.text));
-    }
-    return (node.bFlag ? "" : "login item ") + node.text;
-}
-
-Value Evaluator::GetEveryLoginItem(const Node &node)
+Value Evaluator::NameOfEveryLoginItem(const Node &node)
 {
     std::vector<std::string> names;
     FailSystemEvents(node, LoginItemNames(names));
     std::string list;
     for (const std::string &name : names) {
-        list += (list.empty() ? "" : ", ") + std::string(node.bFlag ? "" : "login item ") + name;
+        list += (list.empty() ? "" : ", ") + name;
     }
     return list;
 }
 
-bool Evaluator::Exists(const Node &node)
+Value Evaluator::IfLoginItemExists(const Node &node)
 {
     std::vector<std::string> names;
     FailSystemEvents(node, LoginItemNames(names));
-    return std::ranges::find(names, node.text) != names.end();
+    return std::ranges::find(names, node.text) != names.end() ? RunChildren(node) : std::nullopt;
 }
 
 Value Evaluator::MakeItem(const Node &node)
@@ -103,16 +66,6 @@ Value Evaluator::MakeItem(const Node &node)
     std::string name;
     FailSystemEvents(node, MakeLoginItem(node.text, name));
     return "login item " + name;
-}
-
-Value Evaluator::DeleteItem(const Node &node)
-{
-    if (!Exists(node)) {
-        FailSystemEvents(node, NoSuchItem(node.text));
-    } else {
-        FailSystemEvents(node, DeleteLoginItem(node.text));
-    }
-    return std::nullopt;
 }
 
 void Evaluator::Fail(const Node &node, const Failure &failure)

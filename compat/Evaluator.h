@@ -21,15 +21,11 @@ public:
     const ScriptError &Error() const { return error; }
 
 private:
-    Value RunFrom(const Node &node, std::size_t nFirst);
-    Value If(const Node &node);
+    Value RunChildren(const Node &node);
     Value DoShellScript(const Node &node);
-    Value GetLoginItem(const Node &node);
-    Value GetEveryLoginItem(const Node &node);
+    Value NameOfEveryLoginItem(const Node &node);
+    Value IfLoginItemExists(const Node &node);
     Value MakeItem(const Node &node);
-    Value DeleteItem(const Node &node);
-    /// Whether there is a login item of the node's name; false also on an error.
-    bool Exists(const Node &node);
     void Fail(const Node &node, const Failure &failure);
     void FailSystemEvents(const Node &node, const Failure &failure);
 

@@ -88,8 +88,7 @@ Failure FindApplication(std::string path, Application &application)
     }
     if (!IsExecutableName(path)) {
         return {HandlerFailed,
-                "A login item's path cannot have a backslash, an equals sign, a control character or "
-                "broken UTF-8 in it."};
+                "A login item's path cannot have an equals sign, a control character or broken UTF-8 in it."};
     }
     for (const std::string &program : {path, path + '/' + kelvo.executable}) {
         if (!IsProgram(program)) {
@@ -159,7 +158,8 @@ Failure DeleteLoginItem(const std::string &name)
         return failure;
     }
     for (const LoginItem &item : items) {
-        if (item.entry.name == name && unlink(item.file.c_str()) != 0) {
+        // Somebody else may delete it at the same time.
+        if (item.entry.name == name && unlink(item.file.c_str()) != 0 && errno != ENOENT) {
             return {HandlerFailed, "Cannot delete " + item.file + ": " + LastError() + '.'};
         }
     }

@@ -19,5 +19,5 @@ Failure LoginItemNames(std::vector<std::string> &names);
 /// @param name  set to the item's name: "Kelvo" for Kelvo's executable, else the file's name
 Failure MakeLoginItem(const std::string &path, std::string &name);
 
-/// Deletes every entry of that name.
+/// Deletes every entry of that name; that there is none is no failure.
 Failure DeleteLoginItem(const std::string &name);

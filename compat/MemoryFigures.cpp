@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <charconv>
+#include <dirent.h>
 #include <optional>
 #include <span>
 #include <string_view>
@@ -122,12 +123,18 @@ bool ReadDivision(const std::string &path, MemoryFigures &figures, std::string &
 }
 
 /// Compressed block devices, mostly used for swap: bytes stored, bytes after compression, bytes of memory
-/// used.
+/// used. Their numbers need not follow one another.
 void AddZram(const std::string &root, MemoryFigures &figures)
 {
+    const std::string directory = root + "/sys/block/";
+    DIR *const stream = opendir(directory.c_str());
     std::string report;
-    for (int nDevice = 0; ReadFile(root + "/sys/block/zram" + std::to_string(nDevice) + "/mm_stat", report);
-         ++nDevice) {
+    while (const dirent *const device = stream != nullptr ? readdir(stream) : nullptr) {
+        const std::string name = device->d_name;
+        if (!name.starts_with("zram") ||
+            !ReadFile(std::string(directory).append(name).append("/mm_stat"), report)) {
+            continue;
+        }
         std::string_view rest = report;
         std::array<std::uint64_t, 3> nBytes = {};
         for (std::uint64_t &number : nBytes) {
@@ -137,6 +144,9 @@ void AddZram(const std::string &root, MemoryFigures &figures)
         }
         figures[StoredInCompressor] += nBytes[0] / nBytesPerPage;
         figures[OccupiedByCompressor] += nBytes[2] / nBytesPerPage;
+    }
+    if (stream != nullptr) {
+        closedir(stream);
     }
 }
 

@@ -8,7 +8,7 @@
 class Parser
 {
 public:
-    explicit Parser(std::string_view source);
+    explicit Parser(std::string_view source) : tokens(source) {}
 
     /// The whole script, as a block. To be called once; the result is of use only if there is no error then.
     Node Parse();
@@ -20,32 +20,20 @@ private:
     {
         std::string_view word;
         bool bSystemEvents;
-        Node (Parser::*parse)();
+        NodeKind kind;
+        void (Parser::*parse)(Node &node);
     };
     static const Command commands[];
 
+    /// Statements up to an "end" or the end of the script.
     void Statements(Node &block);
     Node Statement();
-    Node Tell();
-    Node If();
-    Node Get();
-    Node DoShellScript();
-    Node MakeLoginItem();
-    Node DeleteLoginItem();
-    Node Expression();
-    Node Parenthesis();
-    /// What only System Events knows: its login items and their names.
-    Node Reference();
-    /// A text in any number of parentheses.
-    std::string TextLiteral();
-    /// "end WORD", the second word as optional as it is in the language.
-    void EndOf(std::string_view word);
-
-    Node NodeHere(NodeKind kind) const { return {kind, tokens.Here().range, {}, false, {}}; }
-    /// The end of what was parsed last is the end of the node.
-    Node Finish(Node node) const;
-    /// Counts one level down; fails where the stack would become the limit.
-    void Descend();
+    void DoShellScript(Node &node);
+    void Tell(Node &node);
+    void NameOfEveryLoginItem(Node &node);
+    void IfLoginItemExists(Node &node);
+    void MakeLoginItem(Node &node);
+    void DeleteLoginItem(Node &node);
 
     TokenStream tokens;
     int nDepth = 0;

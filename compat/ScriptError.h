@@ -15,11 +15,9 @@ enum ErrorNumber : int
 {
     NoError = 0,
     FileNotFound = -43,
-    CannotCoerce = -1700,
     CannotGet = -1728,
     TimedOut = -1712,
     StackOverflow = -2706,
-    WrongNeighbour = -2740,
     Unexpected = -2741,
     HandlerFailed = -10000
 };

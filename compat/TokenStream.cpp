@@ -1,24 +1,14 @@
 #include "compat/TokenStream.h"
 
-#include <algorithm>
-#include <iterator>
-
 namespace {
-
-constexpr std::string_view reservedWords[] = {"application", "end", "every",  "exists", "get",
-                                              "if",          "of",  "script", "tell",   "the",
-                                              "then",        "to",  "with",   "without"};
 
 std::string Describe(const Token &token)
 {
     switch (token.kind) {
     case TokenKind::Word:
-        return std::ranges::find(reservedWords, token.text) != std::end(reservedWords) ? Quoted(token.text)
-                                                                                       : "identifier";
+        return "identifier";
     case TokenKind::Text:
         return Quoted("\"");
-    case TokenKind::Number:
-        return "number";
     case TokenKind::Symbol:
         return Quoted(token.text);
     case TokenKind::EndOfLine:
@@ -44,53 +34,29 @@ const ScriptError &TokenStream::Error() const
     return tokenizer.Error() ? tokenizer.Error() : error;
 }
 
-bool TokenStream::IsAtWord(std::string_view word) const
+void TokenStream::Expect(std::initializer_list<std::string_view> phrase)
 {
-    return token.kind == TokenKind::Word && token.text == word;
-}
-
-bool TokenStream::IsAtSymbol(std::string_view symbol) const
-{
-    return token.kind == TokenKind::Symbol && token.text == symbol;
-}
-
-bool TokenStream::SkipWord(std::string_view word)
-{
-    const bool bHere = IsAtWord(word);
-    if (bHere) {
-        Advance();
-    }
-    return bHere;
-}
-
-bool TokenStream::SkipSymbol(std::string_view symbol)
-{
-    const bool bHere = IsAtSymbol(symbol);
-    if (bHere) {
-        Advance();
-    }
-    return bHere;
-}
-
-void TokenStream::Expect(std::initializer_list<std::string_view> words)
-{
-    for (const std::string_view word : words) {
-        if (!SkipWord(word)) {
-            FailExpected(Quoted(word));
+    for (const std::string_view wanted : phrase) {
+        if (IsAt(TokenKind::Text) || token.text != wanted) {
+            FailExpected(Quoted(wanted));
         }
+        Advance();
     }
 }
 
-void TokenStream::ExpectSymbol(std::string_view symbol)
+std::string TokenStream::ExpectText()
 {
-    if (!SkipSymbol(symbol)) {
-        FailExpected(Quoted(symbol));
+    if (!IsAt(TokenKind::Text)) {
+        FailExpected("string");
     }
+    std::string text = token.text;
+    Advance();
+    return text;
 }
 
 void TokenStream::ExpectEndOfLine()
 {
-    if (token.kind != TokenKind::EndOfLine && token.kind != TokenKind::EndOfScript) {
+    if (!IsAt(TokenKind::EndOfLine) && !IsAt(TokenKind::EndOfScript)) {
         FailExpected("end of line");
     }
 }
@@ -107,7 +73,7 @@ void TokenStream::Fail(bool bSyntax, Failure failure)
 {
     if (!error) {
         error = {bSyntax, token.range, std::move(failure)};
-        token.kind = TokenKind::EndOfScript;
+        token = {};
     }
 }
 

@@ -15,14 +15,13 @@ public:
     /// The end of the token before this one.
     std::size_t LastEnd() const { return nLastEnd; }
     bool IsAt(TokenKind kind) const { return token.kind == kind; }
-    bool IsAtWord(std::string_view word) const;
-    bool IsAtSymbol(std::string_view symbol) const;
+    bool IsAtWord(std::string_view word) const { return IsAt(TokenKind::Word) && token.text == word; }
 
     void Advance();
-    bool SkipWord(std::string_view word);
-    bool SkipSymbol(std::string_view symbol);
-    void Expect(std::initializer_list<std::string_view> words);
-    void ExpectSymbol(std::string_view symbol);
+    /// Passes these words and symbols, or fails at the first that is missing.
+    void Expect(std::initializer_list<std::string_view> phrase);
+    /// Passes a string: its content.
+    std::string ExpectText();
     void ExpectEndOfLine();
 
     void Fail(bool bSyntax, Failure failure);

@@ -4,9 +4,7 @@
 
 namespace {
 
-constexpr std::string_view byteOrderMark = "\xEF\xBB\xBF";
-constexpr std::string_view continuationMark = "\xC2\xAC";
-constexpr std::string_view symbols = "{}(),:&";
+constexpr std::string_view symbols = "{}:,";
 
 // Not those of <cctype>: the language does not change with the locale.
 bool IsLetter(char c)
@@ -24,100 +22,26 @@ char ToLower(char c)
 
 } // namespace
 
-Tokenizer::Tokenizer(std::string_view text) : source(text)
+void Tokenizer::Fail(SourceRange range, std::string text)
 {
-    if (StartsWith(byteOrderMark)) {
-        nPosition = byteOrderMark.size();
-    }
-}
-
-char Tokenizer::Peek(std::size_t nAhead) const
-{
-    return nPosition + nAhead < source.size() ? source[nPosition + nAhead] : '\0';
-}
-
-bool Tokenizer::StartsWith(std::string_view text) const
-{
-    return source.substr(nPosition).starts_with(text);
-}
-
-void Tokenizer::Fail(SourceRange range, int number, std::string text)
-{
-    if (!error) {
-        error = {true, range, {number, std::move(text)}};
-    }
+    error = {true, range, {Unexpected, std::move(text)}};
     nPosition = source.size();
 }
 
 bool Tokenizer::SkipLineEnd()
 {
-    if (StartsWith("\r\n")) {
-        nPosition += 2;
-        return true;
-    }
-    if (Peek() == '\n' || Peek() == '\r') {
-        ++nPosition;
-        return true;
-    }
-    return false;
+    const std::size_t nLength = StartsWith("\r\n") ? 2 : Peek() == '\n' || Peek() == '\r' ? 1 : 0;
+    nPosition += nLength;
+    return nLength > 0;
 }
 
 void Tokenizer::SkipSpace()
 {
-    for (;;) {
-        if (Peek() == ' ' || Peek() == '\t') {
-            ++nPosition;
-        } else if (StartsWith("--") || Peek() == '#') {
-            nPosition = std::min(source.find_first_of("\r\n", nPosition), source.size());
-        } else if (StartsWith("(*")) {
-            SkipBlockComment();
-        } else if (StartsWith(continuationMark)) {
-            SkipContinuation();
-        } else {
-            return;
-        }
-    }
-}
-
-void Tokenizer::SkipBlockComment()
-{
-    const std::size_t nStart = nPosition;
-    std::size_t nDepth = 0;
-    do {
-        if (StartsWith("(*")) {
-            ++nDepth;
-            nPosition += 2;
-        } else if (StartsWith("*)")) {
-            --nDepth;
-            nPosition += 2;
-        } else {
-            ++nPosition;
-        }
-    } while (nDepth > 0 && nPosition < source.size());
-    if (nDepth > 0) {
-        Fail({nStart, source.size()}, Unexpected, "Expected \"*)\" but found end of script.");
-    }
-}
-
-void Tokenizer::SkipContinuation()
-{
-    const std::size_t nStart = nPosition;
-    nPosition += continuationMark.size();
     while (Peek() == ' ' || Peek() == '\t') {
         ++nPosition;
     }
-    if (!SkipLineEnd()) {
-        Fail({nStart, nPosition}, Unexpected, "Expected end of line after the continuation mark.");
-    }
-}
-
-void Tokenizer::RefuseNeighbour(std::string_view after)
-{
-    const bool bText = Peek() == '"';
-    if (bText || IsLetter(Peek()) || IsDigit(Peek())) {
-        const std::string_view what = bText ? "\"\"\"" : IsDigit(Peek()) ? "number" : "identifier";
-        Fail({nPosition, nPosition + 1}, WrongNeighbour,
-             "A " + std::string(what) + " can't go after this " + std::string(after) + ".");
+    if (StartsWith("--") || StartsWith("#")) {
+        nPosition = std::min(source.find_first_of("\r\n", nPosition), source.size());
     }
 }
 
@@ -127,18 +51,6 @@ Token Tokenizer::Word()
     while (IsLetter(Peek()) || IsDigit(Peek())) {
         token.text += ToLower(source[nPosition++]);
     }
-    return token;
-}
-
-Token Tokenizer::Number()
-{
-    const std::size_t nStart = nPosition;
-    while (IsDigit(Peek()) || (Peek() == '.' && IsDigit(Peek(1)))) {
-        ++nPosition;
-    }
-    Token token = {
-        TokenKind::Number, {nStart, nPosition}, std::string(source.substr(nStart, nPosition - nStart))};
-    RefuseNeighbour("number");
     return token;
 }
 
@@ -163,12 +75,11 @@ Token Tokenizer::Text()
         token.text += c;
     }
     if (!bKnown) {
-        Fail({nPosition - 1, nPosition}, Unexpected, "Expected \"\"\" but found unknown token.");
+        Fail({nPosition - 1, nPosition}, "Expected \"\"\" but found unknown token.");
     } else if (Peek() != '"') {
-        Fail({token.range.nBegin, nPosition}, Unexpected, "Expected \"\"\" but found end of script.");
+        Fail({token.range.nBegin, nPosition}, "Expected \"\"\" but found end of script.");
     } else {
         ++nPosition;
-        RefuseNeighbour("\"\"\"");
     }
     return token;
 }
@@ -177,7 +88,7 @@ Token Tokenizer::Symbol()
 {
     const SourceRange range = {nPosition, nPosition + 1};
     if (symbols.find(Peek()) == std::string_view::npos) {
-        Fail(range, Unexpected, "Expected end of line but found unknown token.");
+        Fail(range, "Expected end of line but found unknown token.");
         return {};
     }
     return {TokenKind::Symbol, range, std::string(1, source[nPosition++])};
@@ -194,8 +105,6 @@ Token Tokenizer::Next()
         token.kind = TokenKind::EndOfLine;
     } else if (IsLetter(Peek())) {
         token = Word();
-    } else if (IsDigit(Peek())) {
-        token = Number();
     } else if (Peek() == '"') {
         token = Text();
     } else {

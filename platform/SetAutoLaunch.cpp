@@ -2,12 +2,23 @@
 
 #include <QCoreApplication>
 
+namespace {
+
+/// A directory can be named like a piece of script: unescaped, it would be run as one.
+QString Escaped(QString text)
+{
+    return text.replace(QLatin1Char('\\'), QLatin1String("\\\\"))
+        .replace(QLatin1Char('"'), QLatin1String("\\\""));
+}
+
+} // namespace
+
 QString Global::AddLoginItemScript(const QString &bundlePath)
 {
     return QStringLiteral("tell application \"System Events\"\n"
                           "    make login item at end with properties {path:\"%1\", kind:application}\n"
                           "end tell\n")
-        .arg(bundlePath);
+        .arg(Escaped(bundlePath));
 }
 
 QString Global::RemoveLoginItemScript(const QString &itemName)
@@ -18,7 +29,7 @@ QString Global::RemoveLoginItemScript(const QString &itemName)
                           "        delete login item \"%1\"\n"
                           "    end if\n"
                           "end tell\n")
-        .arg(itemName);
+        .arg(Escaped(itemName));
 }
 
 QString Global::BundlePath(const QString &applicationDirPath)

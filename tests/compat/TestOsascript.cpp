@@ -76,7 +76,6 @@ void TestOsascript::Result_data()
         "do shell script \"printf 'a\\\\nb\\\\r\\\\nc\\\\rd\\\\n\\\\n'\"", "a\rb\rc\rd\r\n");
     row("line ends stay", "do shell script \"printf 'a\\\\n\\\\n'\" without altering line endings",
         "a\n\n\n");
-    row("line ends altered, said", "do shell script \"printf 'a\\\\n'\" with altering line endings", "a\n");
     row("no output", "do shell script \":\"", "\n");
     row("bytes as they are", "do shell script \"printf '\\\\0\\\\377\303\244'\"",
         QByteArray("\0\xff\xc3\xa4\n", 5));
@@ -86,16 +85,12 @@ void TestOsascript::Result_data()
     row("standard error of a success", "do shell script \"echo a; echo b >&2\"", "a\n");
 
     row("empty", "", "");
-    row("nothing but comments", "-- a\n# b\n(* c (* d *)\n e *)\n\n", "");
-    row("the last statement's value", "\"a\"\ndo shell script \"echo b\"", "b\n");
-    row("a choice not taken has no value", "\"a\"\nif \"false\" then \"b\"", "");
-    row("a choice taken", "if \"true\" then\n\"b\"\nend if", "b\n");
-    row("parentheses", "do shell script ((\"echo a\"))", "a\n");
+    row("nothing but comments", "-- a\n# b\n\n", "");
+    row("the last statement's value", "do shell script \"echo a\"\ndo shell script \"echo b\" -- c", "b\n");
+    row("a block's value", "tell application \"System Events\"\ndo shell script \"echo a\"\nend tell", "a\n");
     row("letter case", "DO Shell scripT \"echo A\"", "A\n");
-    row("CR", "\"a\"\r\"b\"\r", "b\n");
-    row("CRLF", "\"a\"\r\n\"b\"\r\n", "b\n");
-    row("byte order mark", "\xEF\xBB\xBF\"a\"", "a\n");
-    row("continued line", "do shell script \302\254 \n\t\"echo a\" -- why", "a\n");
+    row("CR", "do shell script \"echo a\"\rdo shell script \"echo b\"\r", "b\n");
+    row("CRLF", "do shell script \"echo a\"\r\ndo shell script \"echo b\"\r\n", "b\n");
 }
 
 void TestOsascript::Result()
@@ -123,8 +118,6 @@ void TestOsascript::Error_data()
         "0:28: execution error: The command exited with a non-zero status. (137)");
     row("the statements after it are not run", "do shell script \"exit 3\"\ndo shell script \"exit 4\"",
         "0:24: execution error: The command exited with a non-zero status. (3)");
-    row("no truth", "if \"maybe\" then \"b\"",
-        "3:10: execution error: Can't make \"maybe\" into type boolean. (-1700)");
     row("command too long", "do shell script \"" + QByteArray(200'000, 'x') + '"',
         "0:200018: execution error: Cannot start /bin/sh: Argument list too long. (-10000)");
     row("position in characters", "-- \303\244\303\266 \xF0\x9F\x98\x80\ndo shell script \"exit 3\"",
@@ -132,10 +125,12 @@ void TestOsascript::Error_data()
 
     row("nothing is run if the end is wrong", "do shell script \"exit 3\"\nfoo",
         "25:28: syntax error: Expected expression but found identifier. (-2741)");
-    row("two on a line", "\"a\" do", "4:6: syntax error: Expected end of line but found identifier. (-2741)");
+    row("two on a line", "do shell script \"a\" do",
+        "20:22: syntax error: Expected end of line but found identifier. (-2741)");
     row("half a command", "do shell",
         "8:8: syntax error: Expected \"script\" but found end of script. (-2741)");
-    row("no string", "do shell script 5", "16:17: syntax error: Expected string but found number. (-2741)");
+    row("no string", "do shell script echo",
+        "16:20: syntax error: Expected string but found identifier. (-2741)");
     row("open string", "do shell script \"a",
         "16:18: syntax error: Expected \"\"\" but found end of script. (-2741)");
     row("open string after a backslash", "\"a\\",
@@ -143,15 +138,8 @@ void TestOsascript::Error_data()
     row("bad escape", "\"a\\q\"", "2:3: syntax error: Expected \"\"\" but found unknown token. (-2741)");
     row("NUL in a string", QByteArray("\"a\0\"", 4),
         "2:3: syntax error: Expected \"\"\" but found unknown token. (-2741)");
-    row("quote in a string", "\"a\"b\"",
-        "3:4: syntax error: A identifier can't go after this \"\"\". (-2740)");
-    row("string at a string", "\"a\"\"b\"",
-        "3:4: syntax error: A \"\"\" can't go after this \"\"\". (-2740)");
-    row("letter at a number", "12x", "2:3: syntax error: A identifier can't go after this number. (-2740)");
-    row("open comment", "(* (* *)", "0:8: syntax error: Expected \"*)\" but found end of script. (-2741)");
-    row("open parenthesis", "(\"a\"", "4:4: syntax error: Expected \")\" but found end of script. (-2741)");
-    row("mark within a line", "do \302\254 shell",
-        "3:5: syntax error: Expected end of line after the continuation mark. (-2741)");
+    row("quote in a string", "do shell script \"a\"b\"",
+        "19:20: syntax error: Expected end of line but found identifier. (-2741)");
     row("unknown character", "do $",
         "3:4: syntax error: Expected end of line but found unknown token. (-2741)");
     row("altering", "do shell script \"a\" without changing",
@@ -160,9 +148,9 @@ void TestOsascript::Error_data()
     row("lone tell", "tell", "4:4: syntax error: Expected \"application\" but found end of script. (-2741)");
     row("open tell", "tell application \"System Events\"\n",
         "33:33: syntax error: Expected \"end\" but found end of script. (-2741)");
-    row("lone end", "end tell", "0:3: syntax error: Expected end of script but found \"end\". (-2741)");
+    row("lone end", "end tell", "0:3: syntax error: Expected end of script but found identifier. (-2741)");
     row("another end", "tell application \"System Events\"\nend if",
-        "37:39: syntax error: Expected \"tell\" but found \"if\". (-2741)");
+        "37:39: syntax error: Expected \"tell\" but found identifier. (-2741)");
     row("another application", "tell application \"Finder\"\nactivate\nend tell",
         "17:25: execution error: Can't get application \"Finder\". (-1728)");
     row("System Events' words outside", "make login item",
@@ -186,8 +174,7 @@ void TestOsascript::Arguments_data()
     row({}, {0, "input\n", ""});
     row({"-"}, {0, "input\n", ""});
     row({"-l", "applescript"}, {0, "input\n", ""});
-    row({"-e", "\"a\""}, {0, "a\n", ""});
-    row({"-e", "if \"true\" then", "-e", "\"a\"", "-e", "end if", "argument"}, {0, "a\n", ""});
+    row({"-e", "do shell script \"echo a\"", "-e", "do shell script \"echo b\"", "argument"}, {0, "b\n", ""});
     row({"-e", ""}, {0, "", ""});
     row({"-l", "JavaScript"}, {1, "", "osascript: no such language: \"JavaScript\" (AppleScript only)\n"});
     row({"/nonexistent"}, {1, "", "osascript: /nonexistent: No such file or directory\n"});
@@ -200,7 +187,7 @@ void TestOsascript::Arguments()
 {
     QFETCH(const QStringList, arguments);
     QFETCH(const Outcome, expected);
-    QCOMPARE(RunProgram(OSASCRIPT, arguments, {.input = "\"input\""}), expected);
+    QCOMPARE(RunProgram(OSASCRIPT, arguments, {.input = "do shell script \"echo input\""}), expected);
 }
 
 void TestOsascript::ScriptFile()
@@ -208,10 +195,10 @@ void TestOsascript::ScriptFile()
     QTemporaryDir dir;
     QFile file(dir.filePath("a script"));
     QVERIFY(file.open(QIODevice::WriteOnly));
-    file.write("\"from a file\"\nfoo");
+    file.write("#!/usr/bin/osascript\nfoo");
     file.close();
     const QByteArray errors = file.fileName().toUtf8() +
-                              ":14:17: syntax error: Expected expression but found identifier. (-2741)\n";
+                              ":21:24: syntax error: Expected expression but found identifier. (-2741)\n";
     QCOMPARE(RunProgram(OSASCRIPT, {file.fileName(), "an", "argument"}), (Outcome{1, "", errors}));
 }
 
@@ -272,25 +259,13 @@ void TestOsascript::Hostile_data()
     for (int byte = 0; byte < 256; ++byte) {
         everyByte += static_cast<char>(byte);
     }
-    const QByteArray tell = "tell application \"System Events\"";
     QTest::newRow("10 MB") << QByteArray(10'000'000, '\n')
                            << QByteArray("osascript: standard input: File too large\n");
     QTest::newRow("binary")
         << everyByte
         << QByteArray("0:1: syntax error: Expected end of line but found unknown token. (-2741)\n");
-    QTest::newRow("10000 tells") << (tell + '\n').repeated(10'000)
+    QTest::newRow("10000 tells") << QByteArray("tell application \"System Events\"\n").repeated(10'000)
                                  << QByteArray("syntax error: The script is nested too deeply. (-2706)\n");
-    QTest::newRow("10000 tells on a line")
-        << (tell + " to ").repeated(10'000)
-        << QByteArray("syntax error: The script is nested too deeply. (-2706)\n");
-    QTest::newRow("100000 parentheses") << QByteArray(100'000, '(') << QByteArray("(-2706)\n");
-    QTest::newRow("100000 parentheses in a command")
-        << "do shell script " + QByteArray(100'000, '(') << QByteArray("(-2741)\n");
-    QTest::newRow("100000 comments")
-        << QByteArray("(*").repeated(100'000)
-        << QByteArray("0:200000: syntax error: Expected \"*)\" but found end of script. (-2741)\n");
-    QTest::newRow("100000 continued lines")
-        << QByteArray("\302\254\n").repeated(100'000) + "foo" << QByteArray("identifier. (-2741)\n");
 }
 
 void TestOsascript::Hostile()
