@@ -9,14 +9,19 @@
 
 #include <QMenu>
 #include <QSettings>
+#include <QTranslator>
 
 /// A whole application for one test: the real controller over a fake interpreter whose report the test sets.
 class RunningApp
 {
 public:
-    explicit RunningApp(const QByteArray &report = Report(1000, 20, 30, 7))
+    explicit RunningApp(const QByteArray &report = Report(1000, 20, 30, 7),
+                        const QList<QTranslator *> &catalogues = {})
         : app(nArguments, arguments), interpreter(QStringLiteral("osascript"), Script(report))
     {
+        for (QTranslator *catalogue : catalogues) {
+            QCoreApplication::installTranslator(catalogue);
+        }
         app.InitializeWidgets();
     }
 
