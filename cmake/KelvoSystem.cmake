@@ -14,3 +14,6 @@ endif()
 # The layout that the program relies on: BUILD/bin/kelvo, and beside bin the Resources directory.
 set(KELVO_BIN_DIR "${CMAKE_BINARY_DIR}/bin")
 set(KELVO_RESOURCES_DIR "${CMAKE_BINARY_DIR}/Resources")
+if(KELVO_SYSTEM STREQUAL "MacOs")
+    set(KELVO_RESOURCES_DIR "${KELVO_BIN_DIR}/Kelvo.app/Contents/Resources")
+endif()

@@ -33,6 +33,14 @@ def drawing(size, paint, oversample=1):
     return picture.convert("RGBA")
 
 
+def scalable(path, size, *paints):
+    """The same as an SVG file, the paints one over the other."""
+    with cairo.SVGSurface(str(path), size, size) as surface:
+        surface.set_document_unit(cairo.SVGUnit.PX)
+        for paint in paints:
+            paint(cairo.Context(surface))
+
+
 def colour(text, alpha=1.0):
     """Red, green, blue and alpha from 0 to 1, for a colour like "#4cc35e"."""
     return (*(int(text[i : i + 2], 16) / 255 for i in (1, 3, 5)), alpha)
@@ -66,33 +74,37 @@ def gradient(x0, y0, x1, y1, *stops):
     return pattern
 
 
-def glyph():
-    """The 16-pixel glyph, black on nothing.
+def symbol(context, wedge=3.6):
+    """The 16-pixel glyph as black alone, which a desktop redraws in the colour of its texts.
 
-    The chart's face is light, not cut out: so the dark glyph still reads on a dark panel, where a bare one would be
-    gone. Legs lie on whole pixels, so nothing but the round parts is blurred.
+    Legs lie on whole pixels, so nothing but the round parts is blurred. The wedge keeps clear of its surroundings.
     """
+    context.set_source_rgba(0, 0, 0, 1)
+    for leg in (3, 6, 9, 12):
+        context.rectangle(leg, 0, 1, 2)
+        context.rectangle(leg, 14, 1, 2)
+        context.rectangle(0, leg, 2, 1)
+        context.rectangle(14, leg, 2, 1)
+    context.fill()
+    context.set_fill_rule(cairo.FILL_RULE_EVEN_ODD)
+    rounded(context, 2, 2, 12, 12, 1.5)
+    context.new_sub_path()
+    context.arc(8, 8, 4.7, 0, TURN)
+    context.fill()
+    context.move_to(8, 8)
+    context.arc(8, 8, wedge, TOP, 0)
+    context.close_path()
+    context.fill()
+
+
+def glyph():
+    """The symbol on a light face, so that the dark glyph still reads on a dark panel, where a bare one would be gone."""
 
     def paint(context):
         context.set_source_rgba(1, 1, 1, 0.8)
         context.arc(8, 8, 5, 0, TURN)
         context.fill()
-        context.set_source_rgba(0, 0, 0, 1)
-        for leg in (3, 6, 9, 12):
-            context.rectangle(leg, 0, 1, 2)
-            context.rectangle(leg, 14, 1, 2)
-            context.rectangle(0, leg, 2, 1)
-            context.rectangle(14, leg, 2, 1)
-        context.fill()
-        context.set_fill_rule(cairo.FILL_RULE_EVEN_ODD)
-        rounded(context, 2, 2, 12, 12, 1.5)
-        context.new_sub_path()
-        context.arc(8, 8, 4.7, 0, TURN)
-        context.fill()
-        context.move_to(8, 8)
-        context.arc(8, 8, 4.7, TOP, 0)
-        context.close_path()
-        context.fill()
+        symbol(context, wedge=4.7)
 
     return drawing(16, paint).convert("LA")
 
@@ -116,16 +128,26 @@ def pie_chart():
     return drawing(16, paint, 8)
 
 
-def application_icon():
-    """The chip in full colour at 96 pixels, light from above, with a soft shadow below."""
+def application_icon(svg):
+    """The chip in full colour at 96 pixels, light from above, with a soft shadow below; the same into an SVG file."""
     legs = (24, 40, 56, 72)
 
-    def silhouette(context):
+    def silhouette(context, grown=0):
+        def part(x, y, width, height, radius):
+            rounded(context, x - grown, y - grown, width + 2 * grown, height + 2 * grown, radius + grown)
+
         for leg in legs:
-            rounded(context, leg - 3, 2, 6, 86, 2)
-            rounded(context, 5, leg - 6, 86, 6, 2)
-        rounded(context, 13, 10, 70, 70, 12)
+            part(leg - 3, 2, 6, 86, 2)
+            part(5, leg - 6, 86, 6, 2)
+        part(13, 10, 70, 70, 12)
         context.fill()
+
+    def layered_shadow(context):
+        # Where nothing can be blurred: ever smaller silhouettes, one over the other.
+        context.translate(0, 4)
+        context.set_source_rgba(0, 0, 0, 0.06)
+        for grown in (3, 2.2, 1.4, 0.6, -0.2, -1, -1.8):
+            silhouette(context, grown)
 
     def chip(context):
         metal = (0, colour("#d5d9df")), (0.35, colour("#f1f3f5")), (1, colour("#7d848f"))
@@ -176,6 +198,7 @@ def application_icon():
         chip(context)
         die(context)
 
+    scalable(svg, 96, layered_shadow, paint)
     nothing = Image.new("L", (96, 96), 0)
     shadow = nothing.copy()
     shadow.paste(drawing(96, silhouette, 4).getchannel("A"), (0, 4))
@@ -231,7 +254,8 @@ def main():
     glyph().save(directory / "app16.png", optimize=True)
     inverse(glyph()).save(directory / "app16_invert.png", optimize=True)
     pie_chart().save(directory / "piechart.png", optimize=True)
-    application_icon().save(directory / "app96.png", optimize=True)
+    application_icon(directory / "app.svg").save(directory / "app96.png", optimize=True)
+    scalable(directory / "app_symbolic.svg", 16, symbol)
     # The classic window is white to #efefef. The dark one is half of whatever lies under it, black to mid-grey.
     wait_indicator(directory / "wait_indicator.gif", ground=0xF4, first=0xCA, last=0x38, least=24)
     wait_indicator(directory / "wait_indicator_dark.gif", ground=0x40, first=0x78, last=0xFF, least=80)
