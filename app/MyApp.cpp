@@ -10,6 +10,8 @@
 #include <QEvent>
 #include <QIcon>
 
+#include <cstdlib>
+
 MyApp::MyApp(int &argc, char **argv) : QtSingleApplication(argc, argv, true)
 {
     setQuitOnLastWindowClosed(false);
@@ -65,6 +67,12 @@ void MyApp::InitializeWidgets()
     connect(dialogReminder, SIGNAL(rejected()), this, SLOT(OnRemindRejected()));
 
     settings = LoadSettings();
+    // An X server that goes away makes Qt call exit(), where no destructor of the application's runs.
+    std::atexit([] {
+        if (const auto *app = qobject_cast<MyApp *>(qApp)) {
+            SaveSettings(app->settings);
+        }
+    });
     SetStyle(settings[QStringLiteral("WindowStyle")].toInt());
     dialogPreferences->SetSettings(settings);
     OnSettingChanged();
@@ -87,6 +95,7 @@ void MyApp::OnFreeMemory()
 
 void MyApp::OnPreferences()
 {
+    dialogPreferences->StandClearOf(mainDialog);
     dialogPreferences->setVisible(true);
     dialogPreferences->raise();
 }

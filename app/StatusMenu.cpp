@@ -108,7 +108,11 @@ void MyApp::UpdateIcon(const QVariantMap &stats)
     const bool bMono = settings[QStringLiteral("MonoColor")].toBool();
     const PieSlices pie = bMono ? PieSlices{slices->nFree} : *slices;
     if (!pieShown || pieShown->bMono != bMono || !pie.LooksLike(pieShown->slices)) {
-        trayIcon->setIcon(QIcon(bMono ? DrawMonoPie(pie) : DrawColorPie(pie)));
+        QIcon icon(bMono ? DrawMonoPie(pie) : DrawColorPie(pie));
+        if (bMono) {
+            icon.addPixmap(DrawMonoPie(pie, 2)); // large panels do not enlarge what they get, or blur it
+        }
+        trayIcon->setIcon(icon);
         pieShown = {pie, bMono};
     }
 }

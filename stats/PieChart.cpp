@@ -80,14 +80,15 @@ QPixmap DrawColorPie(const PieSlices &slices)
     return QPixmap::fromImage(std::move(image));
 }
 
-QPixmap DrawMonoPie(const PieSlices &slices)
+QPixmap DrawMonoPie(const PieSlices &slices, int nScale)
 {
-    QImage image = TransparentImage(32);
+    QImage image = TransparentImage(32 * nScale);
     QPainter painter(&image);
+    painter.scale(nScale, nScale);
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setPen(Qt::NoPen);
 
-    const QRect rect = image.rect().adjusted(1, 1, -1, -1);
+    const QRect rect(1, 1, 30, 30);
     painter.setBrush(Qt::black);
     painter.drawEllipse(rect);
     painter.setBrush(Qt::white);

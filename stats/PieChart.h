@@ -19,5 +19,5 @@ QPixmap DrawWindowPie(const std::optional<PieSlices> &slices);
 /// The status icon in colour, 64 x 64 pixels.
 QPixmap DrawColorPie(const PieSlices &slices);
 
-/// The status icon in black and white, 32 x 32 pixels: free memory is the white slice.
-QPixmap DrawMonoPie(const PieSlices &slices);
+/// The status icon in black and white, 32 x 32 pixels or a multiple: free memory is the white slice.
+QPixmap DrawMonoPie(const PieSlices &slices, int nScale = 1);

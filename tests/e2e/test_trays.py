@@ -45,6 +45,15 @@ class Trays(DesktopTest):
                     self.kelvo.stop()
                     tray.kill() if kind == "trayer" else tray.close()
 
+    def test_large_panels(self):
+        self.desktop.watcher()
+        for record, width in ({}, 64), ({"MonoColor": True}, 32):
+            self.kelvo.store({"HideAtStartUp": True, **record})
+            item = self.start()
+            self.assertBecomes(lambda: item.icon().width, width)
+            self.assertIn(64, [picture.width for picture in item.icons()])
+            self.kelvo.stop()
+
     def test_no_tray(self):
         self.kelvo.start()
         self.assertTrue(self.kelvo.window(10), "nothing of Kelvo can be seen")

@@ -68,11 +68,14 @@ void TestPieChart::windowPieHasASoftRim()
 
 void TestPieChart::monoShowsFreeInWhite()
 {
-    const QPixmap pixmap = DrawMonoPie(PieSlices{2880});
-    QCOMPARE(pixmap.width(), 32);
-    QCOMPARE(At(pixmap, 2880, 8), QColor(Qt::white));
-    QCOMPARE(At(pixmap, 0, 8), QColor(Qt::black));
-    QCOMPARE(At(pixmap, 2880, 13.5), QColor(Qt::black)); // the outline, round the white slice too
+    for (const int nScale : {1, 2}) {
+        const QPixmap pixmap = DrawMonoPie(PieSlices{2880}, nScale);
+        QCOMPARE(pixmap.width(), 32 * nScale);
+        QCOMPARE(At(pixmap, 2880, 8 * nScale), QColor(Qt::white));
+        QCOMPARE(At(pixmap, 0, 8 * nScale), QColor(Qt::black));
+        // The outline, round the white slice too.
+        QCOMPARE(At(pixmap, 2880, 13.5 * nScale), QColor(Qt::black));
+    }
 }
 
 QTEST_MAIN(TestPieChart)

@@ -76,9 +76,12 @@ class TrayItem:
     def tool_tip(self):
         return self.get("ToolTip")[2]
 
+    def icons(self):
+        """The icon's pictures in several sizes, its own one first: pixels of (alpha, red, green, blue)."""
+        return [Picture(width, height, bytes(data)) for width, height, data in self.get("IconPixmap")]
+
     def icon(self):
-        """The largest picture of the icon: pixels of (alpha, red, green, blue)."""
-        return Picture(*max(([w, h, bytes(data)] for w, h, data in self.get("IconPixmap")), key=lambda p: p[0]))
+        return self.icons()[0]
 
     def activate(self):
         """The left click."""
