@@ -26,10 +26,14 @@ void MyApp::OnSettingChanged()
         SetStyle(number(changed, "WindowStyle"));
     }
     if (bVisible) {
-        // New flags hide a window; this brings it back in its place.
+        // New flags hide a window; this brings it back in its place, and the keyboard back to the panel.
+        const bool bInPanel = dialogPreferences->isActiveWindow();
         mainDialog->setVisible(true);
         mainDialog->raise();
         mainDialog->Place(position);
+        if (bInPanel) {
+            dialogPreferences->activateWindow();
+        }
     }
     if (!flag("PieChartIcon") && settings[QStringLiteral("PieChartIcon")].toBool()) {
         SetPlainIcon();

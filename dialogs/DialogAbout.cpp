@@ -17,8 +17,12 @@ DialogAbout::DialogAbout(QWidget *parent) : QDialog(parent), ui(new Ui_DialogAbo
     setWindowTitle(tr("About") + ' ' + name);
     ui->labelAppTitle->setText(name);
     ui->labelVersion->setText(tr("version %1").arg(Global::VersionString));
-    // The form holds the wording, Links the address.
-    ui->label_4->setText(ui->label_4->text().arg(Links::MakerPage().toString()));
+    // The form holds the wording, Links the address. Dark desktops tend to leave links in a light one's blue.
+    QString maker = ui->label_4->text().arg(Links::MakerPage().toString());
+    if (qAbs(qGray(palette().link().color().rgb()) - qGray(palette().window().color().rgb())) < 100) {
+        maker.replace("<a ", "<a style=\"color:" + palette().windowText().color().name() + "\" ");
+    }
+    ui->label_4->setText(maker);
 }
 
 DialogAbout::~DialogAbout()

@@ -1,8 +1,12 @@
 #include "dialogs/DialogPreferences.h"
 
+#include "platform/WindowPlacement.h"
 #include "ui_DialogPreferences.h"
 
-DialogPreferences::DialogPreferences(QWidget *parent) : QFrame(parent), ui(new Ui_DialogPreferences)
+#include <QScreen>
+
+DialogPreferences::DialogPreferences(QWidget *parent)
+    : QFrame(parent), ui(new Ui_DialogPreferences), placement(new WindowPlacement(this))
 {
     ui->setupUi(this);
 
@@ -73,4 +77,20 @@ QMap<QString, QVariant> DialogPreferences::GetSettings() const
     settings.insert("HideAtStartUp", ui->checkBoxHideAtStartUp->isChecked());
     settings.insert("UpdateFrequency", ui->comboBoxFrequency->currentIndex());
     return settings;
+}
+
+void DialogPreferences::StandClearOf(const QWidget *other)
+{
+    const QRect taken = other->frameGeometry();
+    const bool bCovers = other->isVisible() && other->windowFlags().testFlag(Qt::WindowStaysOnTopHint);
+    // Before the first show only the window manager knows where it would open.
+    if (!bCovers || (windowHandle() && !frameGeometry().intersects(taken))) {
+        return;
+    }
+    constexpr int gap = 16; // and what the panel's own frame needs
+    const QRect screen = other->screen()->availableGeometry();
+    const QSize size = sizeHint();
+    const bool bRight = taken.right() + 2 * gap + size.width() <= screen.right();
+    placement->MoveTo({bRight ? taken.right() + gap : qMax(screen.left(), taken.left() - gap - size.width()),
+                       qMin(taken.top(), screen.bottom() - 2 * gap - size.height())});
 }

@@ -5,6 +5,7 @@
 #include <QVariant>
 
 class Ui_DialogPreferences;
+class WindowPlacement;
 
 /// The preferences panel: a control for each setting, and no settings of its own. There is no OK button,
 /// every change is announced at once.
@@ -23,9 +24,13 @@ public:
     /// A complete record, all eleven keys with their exact variant types, read from the controls.
     QMap<QString, QVariant> GetSettings() const;
 
+    /// Puts the panel beside a window that is kept on top, where it would be covered.
+    void StandClearOf(const QWidget *other);
+
 signals:
     void SettingChanged();
 
 private:
     Ui_DialogPreferences *ui;
+    WindowPlacement *placement;
 };

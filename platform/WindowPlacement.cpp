@@ -114,6 +114,13 @@ void WindowPlacement::Correct()
     QMoveEvent refresh(native->position(), native->position());
     QCoreApplication::sendEvent(native, &refresh);
 
+    // Nor is a window that was hidden for the new flags always kept on top: a window manager that comes late
+    // to the hiding takes that away with it.
+    if (window->windowFlags().testFlag(Qt::WindowStaysOnTopHint)) {
+        native->setFlag(Qt::WindowStaysOnTopHint, false);
+        native->setFlag(Qt::WindowStaysOnTopHint, true);
+    }
+
     // Its full size, too, is known only now.
     const QPoint place = Place();
     const bool bFramed =

@@ -278,6 +278,13 @@ void TestDialogs::AboutOpensTheMakersPage()
     QTest::keyClick(maker, Qt::Key_Return);
     QCOMPARE(opened, QList<QUrl>({Links::MakerPage()}));
     QVERIFY(maker->text().contains("Orvanta"));
+    // Blue as it is on a light desktop, and not blue on a dark one that says nothing of links.
+    QVERIFY(!maker->text().contains("color"));
+    const QPalette light = QApplication::palette();
+    QApplication::setPalette(QPalette(QColor(40, 40, 44)));
+    const DialogAbout onDark(nullptr);
+    QApplication::setPalette(light);
+    QVERIFY(onDark.findChild<QLabel *>("label_4")->text().contains("color:#ffffff"));
 }
 
 void TestDialogs::AboutWritesErrorsToTheLog()

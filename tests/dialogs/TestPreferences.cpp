@@ -36,6 +36,8 @@ private slots:
     void MonoColorIsKeptWhileHidden();
     void ThresholdFollowsRemind();
     void TabGoesFromTopToBottom();
+    void StandsClear_data();
+    void StandsClear();
 };
 
 void TestPreferences::Record_data()
@@ -197,6 +199,46 @@ void TestPreferences::TabGoesFromTopToBottom()
     }
     visited.removeDuplicates();
     QCOMPARE(visited.size(), 11);
+}
+
+void TestPreferences::StandsClear_data()
+{
+    QTest::addColumn<QPoint>("otherAt");
+    QTest::newRow("left") << QPoint(20, 30);
+    QTest::newRow("right") << QPoint(550, 30);
+    QTest::newRow("low") << QPoint(20, 500);
+}
+
+void TestPreferences::StandsClear()
+{
+    QFETCH(const QPoint, otherAt);
+    QWidget other;
+    other.resize(200, 80);
+    other.move(otherAt);
+    DialogPreferences panel(nullptr);
+    const QRect screen = panel.screen()->availableGeometry();
+
+    // A window that can be covered is no reason to move.
+    other.show();
+    panel.move(otherAt);
+    panel.StandClearOf(&other);
+    QCOMPARE(panel.pos(), otherAt);
+
+    other.setWindowFlag(Qt::WindowStaysOnTopHint);
+    panel.StandClearOf(&other);
+    QCOMPARE(panel.pos(), otherAt); // nor is a hidden one
+    other.show();
+    for (int nTime = 0; nTime < 2; ++nTime) {
+        panel.StandClearOf(&other);
+        panel.show();
+        QVERIFY(!panel.frameGeometry().intersects(other.frameGeometry()));
+        QVERIFY(screen.contains(panel.frameGeometry()));
+        panel.hide();
+        panel.move(otherAt + QPoint(10, 10)); // covered again
+    }
+    panel.move(screen.center());
+    panel.StandClearOf(&other); // the place that the user gave it
+    QCOMPARE(panel.pos(), screen.center());
 }
 
 QTEST_MAIN(TestPreferences)
