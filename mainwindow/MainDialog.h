@@ -53,6 +53,7 @@ public slots:
 protected:
     void closeEvent(QCloseEvent *event) override;
     void enterEvent(QEnterEvent *event) override;
+    void keyPressEvent(QKeyEvent *event) override;
     void leaveEvent(QEvent *event) override;
     void mousePressEvent(QMouseEvent *event) override;
     void mouseMoveEvent(QMouseEvent *event) override;
@@ -65,6 +66,9 @@ private:
     void SaveState();
     void CountStart();
     void ShowFigures();
+    void ShowPieChart();
+    /// What the pie chart shows, for those who cannot see it: "Free: 1.00 GB, Inactive: ...".
+    QString FiguresInWords() const;
     void ShowResult(const QString &text);
     bool IsBusy() const;
     void SetHover(bool bOver);

@@ -1,8 +1,9 @@
-// The main window under the mouse: dragging by its body, and the close mark of the frameless window.
+// The main window under the mouse: dragging by its body, and the close mark of the frameless window with its key.
 
 #include "mainwindow/MainDialog.h"
 #include "platform/WindowPlacement.h"
 
+#include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPainter>
 
@@ -62,6 +63,15 @@ void MainDialog::mouseReleaseEvent(QMouseEvent *event)
         rectClose.contains(event->position())) {
         hide();
         event->accept();
+    }
+}
+
+void MainDialog::keyPressEvent(QKeyEvent *event)
+{
+    if (event->key() == Qt::Key_Escape && windowFlags().testFlag(Qt::FramelessWindowHint)) {
+        hide();
+    } else {
+        QFrame::keyPressEvent(event);
     }
 }
 

@@ -29,11 +29,8 @@ void MainDialog::UpdateStats(bool bForce)
                      stats);
     ShowFigures();
 
-    // Same slices, same pixels: the label then has them already.
-    const auto slices = SlicesOf(stats);
-    if ((bForce || isVisible()) && (slices != slicesShown || ui->labelPieChart->pixmap().isNull())) {
-        ui->labelPieChart->setPixmap(CreatePieChart());
-        slicesShown = slices;
+    if (bForce || isVisible()) {
+        ShowPieChart();
     }
     qobject_cast<MyApp *>(QCoreApplication::instance())->UpdateMenu(stats);
 }
@@ -57,6 +54,29 @@ void MainDialog::ShowFigures()
     const qlonglong total = AddBytes(stats[QStringLiteral("Free")].toLongLong(), used);
     ui->labelUsed->setText(FormatSizeString(used));
     ui->labelTotal->setText(FormatSizeString(AddBytes(total, totalBias)));
+}
+
+void MainDialog::ShowPieChart()
+{
+    ui->labelPieChart->setAccessibleDescription(FiguresInWords());
+    // Same slices, same pixels: the label then has them already.
+    const auto slices = SlicesOf(stats);
+    if (slices != slicesShown || ui->labelPieChart->pixmap().isNull()) {
+        ui->labelPieChart->setPixmap(CreatePieChart());
+        slicesShown = slices;
+    }
+}
+
+QString MainDialog::FiguresInWords() const
+{
+    QStringList words;
+    for (const auto &[label, figure] : {std::pair(ui->label_2, ui->labelFree),
+                                        {ui->label_5, ui->labelInactive},
+                                        {ui->label_4, ui->labelActive},
+                                        {ui->label_3, ui->labelWired}}) {
+        words << label->text() + QLatin1Char(' ') + figure->text();
+    }
+    return words.join(QStringLiteral(", "));
 }
 
 QPixmap MainDialog::CreatePieChart()

@@ -123,7 +123,8 @@ void TestMainWindow::closeMark()
 {
     const RunningApp running;
     MainDialog *window = Window();
-    const auto mark = [&] { return window->grab().toImage().pixelColor(6, 11); };
+    const auto pixel = [&](const QPoint &at) { return window->grab().toImage().pixelColor(at); };
+    const auto mark = [&] { return pixel({6, 11}); };
     const auto hover = [&](bool bOver) {
         QEnterEvent enter(QPointF(9, 9), QPointF(9, 9), QPointF(9, 9));
         QEvent leave(QEvent::Leave);
@@ -140,6 +141,9 @@ void TestMainWindow::closeMark()
     window->show();
     hover(true);
     QCOMPARE(mark(), grey);
+    for (const QPoint &crossed : {QPoint(9, 9), QPoint(12, 12), QPoint(9, 12), QPoint(12, 9)}) {
+        QCOMPARE(pixel(crossed), ground);
+    }
     hover(false);
     QCOMPARE(mark(), ground);
     QTest::mouseClick(window, Qt::LeftButton, {}, {30, 30});
@@ -334,8 +338,10 @@ void TestMainWindow::autoHide()
     const BundledFake memfree(QStringLiteral("memfree"), "echo done");
     Window()->SetAutoHide(true);
     running.app.OnFreeMemory();
+    QTRY_VERIFY(!RunningApp::Find<QWidget>("widgetResult")->isHidden());
+    QTest::qWait(800);
+    QVERIFY(Window()->isVisible()); // time to read the result
     QTRY_VERIFY(!Window()->isVisible());
-    QVERIFY(!RunningApp::Find<QWidget>("widgetResult")->isHidden());
     Window()->show();
     QTRY_VERIFY(!Window()->isVisible()); // every second, until something stops it
     Window()->SetAutoHide(false);
