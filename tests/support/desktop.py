@@ -89,6 +89,8 @@ class Desktop:
     def openbox(self):
         self.spawn("openbox")
         wait_for(lambda: "window id" in self.run("xprop", "-root", "_NET_SUPPORTING_WM_CHECK"))
+        # The first key of all brings a keyboard with it, for which openbox grabs its keys anew: it would miss alt+F4.
+        self.run("xdotool", "key", "Control_L")
 
     def picom(self):
         """A compositor; it detaches itself once it works."""

@@ -8,7 +8,7 @@ from pathlib import Path
 from bus import Gio, wait_for
 
 ACCESSIBLE = "org.a11y.atspi.Accessible"
-STATE_SHOWING = 25  # a bit number
+STATE_CHECKED, STATE_ENABLED, STATE_FOCUSED, STATE_SHOWING = 4, 8, 12, 25  # bit numbers
 
 
 class Kelvo:
@@ -24,6 +24,7 @@ class Kelvo:
         shutil.copy2(built, self.program)
         self.built_resources = Path(built).parent.parent / "Resources"
         self.processes = []
+        self.environment = {}
 
     def use_built_resources(self):
         """The real interpreter and helper, as built."""
@@ -51,9 +52,19 @@ class Kelvo:
 
     def start(self, *arguments, **environment):
         _ = self.desktop.accessibility  # there first, so that this Kelvo knows from the start what we listen to
-        process = self.desktop.spawn(self.program, *arguments, log="kelvo.log", env={**self.desktop.env, **environment})
+        process = self.desktop.spawn(self.program, *arguments, log="kelvo.log",
+                                     env=self.desktop.env | self.environment | environment)
         self.processes.append(process)
         return process
+
+    def move_clock(self, seconds):
+        """Puts the clock of every Kelvo started after the first such call so far ahead; its timers notice at once."""
+        clock = self.directory / "clock"
+        clock.with_suffix(".new").write_text(f"+{seconds}s\n")
+        clock.with_suffix(".new").replace(clock)
+        self.environment |= {"LD_PRELOAD": "/usr/$LIB/faketime/libfaketimeMT.so.1", "FAKETIME_NO_CACHE": "1",
+                             "FAKETIME_TIMESTAMP_FILE": str(clock),
+                             "ASAN_OPTIONS": "detect_leaks=0:verify_asan_link_order=0"}
 
     def run(self, *arguments, seconds=20):
         """A launch that is expected to end by itself: its exit status."""
@@ -110,9 +121,16 @@ class Kelvo:
         return [bus.get(*child, ACCESSIBLE, "Name") for child in bus.call(*menu, ACCESSIBLE, "GetChildren")[0]]
 
     def press(self, text):
-        """Presses the button with this text."""
-        at = next(at for role, name, at in self.widgets() if name == text and "button" in role)
+        """Presses the button, or ticks the box, with this text."""
+        at = next(at for role, name, at in self.widgets() if name == text and ("button" in role or "check" in role))
         self.desktop.accessibility.call(*at, "org.a11y.atspi.Action", "DoAction", "(i)", 0)
+
+    def having(self, state):
+        """The names of the widgets shown that are in this state."""
+        return [name for _, name, at in self.widgets() if self._is(at, state)]
+
+    def _is(self, at, state):
+        return self.desktop.accessibility.call(*at, ACCESSIBLE, "GetState")[0][0] >> state & 1
 
     def widgets(self):
         """Everything shown in Kelvo's windows as (role, name, (bus name, path)), by way of the accessibility bus."""
@@ -120,7 +138,7 @@ class Kelvo:
 
         def walk(name, path):
             for child in bus.call(name, path, ACCESSIBLE, "GetChildren")[0]:
-                if not bus.call(*child, ACCESSIBLE, "GetState")[0][0] >> STATE_SHOWING & 1:
+                if not self._is(child, STATE_SHOWING):
                     continue
                 yield bus.call(*child, ACCESSIBLE, "GetRoleName")[0], bus.get(*child, ACCESSIBLE, "Name"), child
                 yield from walk(*child)
