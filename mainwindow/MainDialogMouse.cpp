@@ -1,4 +1,5 @@
-// The main window under the mouse: dragging by its body, and the close mark of the frameless window with its key.
+// The main window under the mouse: dragging by its body, and the close mark of the frameless window, with the
+// key that does the same.
 
 #include "mainwindow/MainDialog.h"
 #include "platform/WindowPlacement.h"
