@@ -77,8 +77,10 @@ void MainDialog::OnFreeMem()
 
 void MainDialog::OnFinished()
 {
-    // A worker that the watchdog replaced may still have its end to tell; "N/A" stands.
+    // The end of a worker that OnTerminated() replaced: "N/A" stands. Deleted only now, since nobody can tell
+    // whose signal it is once its sender is gone.
     if (sender() && sender() != worker) {
+        sender()->deleteLater();
         return;
     }
     // timerAbort runs on: when it fires it finds no running thread and stops itself.
@@ -99,7 +101,6 @@ void MainDialog::OnTerminated()
     timerReset.stop();
     timerHide.stop();
     ui->pushButtonGo->setEnabled(true);
-    worker->deleteLater();
     CreateWorker();
     ShowResult(QStringLiteral("N/A")); // the same in every language
 }

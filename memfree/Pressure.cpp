@@ -91,8 +91,10 @@ std::uint64_t msNow()
 
 Stop Press(const std::string &proc, const std::string &cgroup, const PressureRequest &request)
 {
+    // Whole pages, of whatever size.
+    const std::uint64_t nBound = request.nBound / nBytesPerMiB * nBytesPerMiB;
     // Beyond the bound, which is for what is held at a time: some of it is taken back while we press.
-    PressureSource source = {-1, request.nBound * 4};
+    PressureSource source = {-1, nBound * 4};
     const bool bFile = !request.directory.empty();
     if (bFile) {
         source.descriptor = OpenPressureFile(request.directory, source.nSize);
@@ -108,12 +110,13 @@ Stop Press(const std::string &proc, const std::string &cgroup, const PressureReq
 
     PressureProgress progress;
     progress.bFileCache = bFile;
-    progress.nBound = request.nBound;
+    progress.nBound = nBound;
     OwnPagesTaken taken;
     const std::uint64_t nKernelReserve = KernelReserve(proc);
     std::uint64_t nStep = nMinStep;
     while (child.Started()) {
-        const std::uint64_t nNow = std::min(nStep, source.nSize - progress.nPressed);
+        const std::uint64_t nNow = std::min(
+            {nStep, source.nSize - progress.nPressed, std::max(nBound - progress.nResident, nMinStep)});
         const std::uint64_t msStep = msNow();
         PressureReply reply;
         if (!child.Press(nNow)) {
@@ -129,6 +132,7 @@ Stop Press(const std::string &proc, const std::string &cgroup, const PressureReq
             if (bReplied) {
                 progress.nPressed += nNow;
                 progress.nResident = reply.nResident;
+                request.onProgress(progress);
             }
             progress.msElapsed = msNow() - request.msStarted;
             stop = Check(proc, cgroup, *request.before, progress, bReplied, nFree);
@@ -148,7 +152,6 @@ Stop Press(const std::string &proc, const std::string &cgroup, const PressureReq
             nStep = std::min(nStep, std::max(nKernelReserve / 8, nMinStep));
             LetKernelCatchUp(proc, nKernelReserve);
         }
-        request.onProgress(progress);
     }
     return Stop::Failed;
 }

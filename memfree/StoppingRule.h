@@ -43,7 +43,7 @@ struct PressureProgress
 class OwnPagesTaken
 {
 public:
-    /// True if seven eighths of what was pressed since some time ago has cost pages of our own.
+    /// True if more than half of what was pressed since some time ago has cost pages of our own.
     bool Mostly(const PressureProgress &progress);
 
 private:

@@ -29,10 +29,13 @@ class Freeing(DesktopTest):
         self.assertTrue(wait_for(self.helpers), "no helper runs")
 
     def test_gain(self):
-        self.helper("sleep 1; echo freed")
+        self.helper("sleep 3; echo freed")
         item = self.start()
         self.free()
+        self.desktop.run("xdotool", "windowactivate", "--sync", self.kelvo.window(), "key", "alt+F4")
+        self.assertTrue(self.kelvo.window_goes(), "the window stays")
         item.click("Free Memory Now!")  # during the run: only shows the window
+        self.assertTrue(self.kelvo.window(), "no window")
         self.assertEqual(len(self.helpers()), 1)
         self.kelvo.report(report(free=262144 + 65536))
         self.assertTrue(wait_for(lambda: "Just freed:" in self.texts()))
@@ -58,11 +61,16 @@ class Freeing(DesktopTest):
 
     def test_watchdog(self):
         self.helper("while :; do sleep 1; done")
+        self.kelvo.move_clock(0)
         self.start()
         self.free()
-        self.assertTrue(wait_for(lambda: "N/A" in self.texts(), 60), "no end of the run")
+        shown = lambda: "N/A" in self.texts()  # noqa: E731
+        for seconds, changes in (45, False), (51, True), (60, False), (67, True):
+            with self.subTest(seconds=seconds):
+                before = shown()
+                self.kelvo.move_clock(seconds)
+                self.assertEqual(wait_for(lambda: shown() != before, 5 if changes else 1), changes)
         self.assertEqual(self.helpers(), [])
-        self.assertTrue(wait_for(lambda: "N/A" not in self.texts(), 25), "the result stays")
         self.assertNotIn("Application/ExecCount", self.kelvo.settings())
 
 
