@@ -56,10 +56,8 @@ private slots:
     void ScriptFile();
     void MemoryReport();
     void OneWrite();
-    void Hostile_data();
-    void Hostile();
-    void Output_data();
-    void Output();
+    void Size_data();
+    void Size();
     void TimeLimit();
     void EndedBySignal();
 };
@@ -71,7 +69,6 @@ void TestOsascript::Result_data()
     const auto row = [](const char *name, const QByteArray &script, const QByteArray &output) {
         QTest::newRow(name) << script << output;
     };
-    row("one line", "do shell script \"echo hello\"", "hello\n");
     row("line ends become CR, the last one goes",
         "do shell script \"printf 'a\\\\nb\\\\r\\\\nc\\\\rd\\\\n\\\\n'\"", "a\rb\rc\rd\r\n");
     row("line ends stay", "do shell script \"printf 'a\\\\n\\\\n'\" without altering line endings",
@@ -79,17 +76,13 @@ void TestOsascript::Result_data()
     row("no output", "do shell script \":\"", "\n");
     row("bytes as they are", "do shell script \"printf '\\\\0\\\\377\303\244'\"",
         QByteArray("\0\xff\xc3\xa4\n", 5));
-    row("escapes", R"(do shell script "printf %s \"a\\tb\"' c	'\t'\"'")", "a\\tb c	\"\n");
     row("raw line end in a string", "do shell script \"echo a\necho b\"", "a\rb\n");
     row("standard input is empty", "do shell script \"cat\"", "\n");
-    row("standard error of a success", "do shell script \"echo a; echo b >&2\"", "a\n");
 
     row("empty", "", "");
-    row("nothing but comments", "-- a\n# b\n\n", "");
     row("the last statement's value", "do shell script \"echo a\"\ndo shell script \"echo b\" -- c", "b\n");
     row("a block's value", "tell application \"System Events\"\ndo shell script \"echo a\"\nend tell", "a\n");
     row("letter case", "DO Shell scripT \"echo A\"", "A\n");
-    row("CR", "do shell script \"echo a\"\rdo shell script \"echo b\"\r", "b\n");
     row("CRLF", "do shell script \"echo a\"\r\ndo shell script \"echo b\"\r\n", "b\n");
 }
 
@@ -107,13 +100,9 @@ void TestOsascript::Error_data()
     const auto row = [](const char *name, const QByteArray &script, const QByteArray &errors) {
         QTest::newRow(name) << script << errors + "\n";
     };
-    row("status", "do shell script \"exit 3\"",
-        "0:24: execution error: The command exited with a non-zero status. (3)");
     row("status and error text", "do shell script \"echo a; echo b >&2; exit 1\"",
         "0:44: execution error: b (1)");
     row("status and output", "do shell script \"echo a; exit 1\"", "0:32: execution error: a (1)");
-    row("unknown command", "do shell script \"nonexistent-command 2>/dev/null\"",
-        "0:49: execution error: The command exited with a non-zero status. (127)");
     row("signal", "do shell script \"kill -9 $$\"",
         "0:28: execution error: The command exited with a non-zero status. (137)");
     row("the statements after it are not run", "do shell script \"exit 3\"\ndo shell script \"exit 4\"",
@@ -127,30 +116,12 @@ void TestOsascript::Error_data()
         "25:28: syntax error: Expected expression but found identifier. (-2741)");
     row("two on a line", "do shell script \"a\" do",
         "20:22: syntax error: Expected end of line but found identifier. (-2741)");
-    row("half a command", "do shell",
-        "8:8: syntax error: Expected \"script\" but found end of script. (-2741)");
-    row("no string", "do shell script echo",
-        "16:20: syntax error: Expected string but found identifier. (-2741)");
-    row("open string", "do shell script \"a",
-        "16:18: syntax error: Expected \"\"\" but found end of script. (-2741)");
-    row("open string after a backslash", "\"a\\",
-        "2:3: syntax error: Expected \"\"\" but found unknown token. (-2741)");
     row("bad escape", "\"a\\q\"", "2:3: syntax error: Expected \"\"\" but found unknown token. (-2741)");
     row("NUL in a string", QByteArray("\"a\0\"", 4),
         "2:3: syntax error: Expected \"\"\" but found unknown token. (-2741)");
-    row("quote in a string", "do shell script \"a\"b\"",
-        "19:20: syntax error: Expected end of line but found identifier. (-2741)");
-    row("unknown character", "do $",
-        "3:4: syntax error: Expected end of line but found unknown token. (-2741)");
-    row("altering", "do shell script \"a\" without changing",
-        "28:36: syntax error: Expected \"altering\" but found identifier. (-2741)");
 
-    row("lone tell", "tell", "4:4: syntax error: Expected \"application\" but found end of script. (-2741)");
     row("open tell", "tell application \"System Events\"\n",
         "33:33: syntax error: Expected \"end\" but found end of script. (-2741)");
-    row("lone end", "end tell", "0:3: syntax error: Expected end of script but found identifier. (-2741)");
-    row("another end", "tell application \"System Events\"\nend if",
-        "37:39: syntax error: Expected \"tell\" but found identifier. (-2741)");
     row("another application", "tell application \"Finder\"\nactivate\nend tell",
         "17:25: execution error: Can't get application \"Finder\". (-1728)");
     row("System Events' words outside", "make login item",
@@ -172,15 +143,11 @@ void TestOsascript::Arguments_data()
         QTest::newRow(qPrintable("'" + arguments.join(' ') + "'")) << arguments << expected;
     };
     row({}, {0, "input\n", ""});
-    row({"-"}, {0, "input\n", ""});
     row({"-l", "applescript"}, {0, "input\n", ""});
     row({"-e", "do shell script \"echo a\"", "-e", "do shell script \"echo b\"", "argument"}, {0, "b\n", ""});
-    row({"-e", ""}, {0, "", ""});
     row({"-l", "JavaScript"}, {1, "", "osascript: no such language: \"JavaScript\" (AppleScript only)\n"});
     row({"/nonexistent"}, {1, "", "osascript: /nonexistent: No such file or directory\n"});
-    row({"/"}, {1, "", "osascript: /: Is a directory\n"});
     row({"-x"}, {2, "", "osascript: invalid option -- 'x'\n"});
-    row({"-e"}, {2, "", "osascript: option requires an argument -- 'e'\n"});
 }
 
 void TestOsascript::Arguments()
@@ -207,9 +174,7 @@ void TestOsascript::MemoryReport()
     const QByteArray script = "do shell script \"vm_stat\"";
     const Outcome own = RunProgram(OSASCRIPT, {}, {.input = script, .environment = Without("/nonexistent")});
     QCOMPARE(own.status, 0);
-    QCOMPARE(own.output.count('\r'), 22);
     QVERIFY(own.output.startsWith("Mach Virtual Memory Statistics: (page size of 4096 bytes)\rPages free: "));
-    QVERIFY(own.output.endsWith(".\n"));
 
     // One that is installed is what the script asks for. A file that cannot be executed is none, nor is a
     // directory.
@@ -225,10 +190,6 @@ void TestOsascript::MemoryReport()
     program.setPermissions(QFileDevice::ReadOwner | QFileDevice::ExeOwner);
     QCOMPARE(RunProgram(OSASCRIPT, {}, {.input = script, .environment = Without(path)}),
              (Outcome{0, "installed\n", ""}));
-    QCOMPARE(RunProgram(OSASCRIPT, {},
-                        {.input = "do shell script \"vm_stat | wc -l\"",
-                         .environment = Without(path + ":/usr/bin:/bin")}),
-             (Outcome{0, "1\n", ""}));
 }
 
 /// The application takes the first burst for all there is.
@@ -251,62 +212,32 @@ void TestOsascript::OneWrite()
     QCOMPARE(nSecond, ssize_t(0));
 }
 
-void TestOsascript::Hostile_data()
+void TestOsascript::Size_data()
 {
     QTest::addColumn<QByteArray>("script");
+    QTest::addColumn<qsizetype>("nOutput"); // 0: it fails
     QTest::addColumn<QByteArray>("errors");
-    QByteArray everyByte;
-    for (int byte = 0; byte < 256; ++byte) {
-        everyByte += static_cast<char>(byte);
-    }
-    QTest::newRow("10 MB") << QByteArray(10'000'000, '\n')
-                           << QByteArray("osascript: standard input: File too large\n");
-    QTest::newRow("binary")
-        << everyByte
-        << QByteArray("0:1: syntax error: Expected end of line but found unknown token. (-2741)\n");
-    QTest::newRow("10000 tells") << QByteArray("tell application \"System Events\"\n").repeated(10'000)
-                                 << QByteArray("syntax error: The script is nested too deeply. (-2706)\n");
+    const auto row = [](const char *name, const QByteArray &script, qsizetype nOutput,
+                        const QByteArray &errors) { QTest::newRow(name) << script << nOutput << errors; };
+    row("script of 10 MB", QByteArray(10'000'000, '\n'), 0, "standard input: File too large\n");
+    row("10000 tells", QByteArray("tell application \"System Events\"\n").repeated(10'000), 0,
+        "syntax error: The script is nested too deeply. (-2706)\n");
+    row("much output", "do shell script \"head -c 60000000 /dev/zero\"", 60'000'001, "");
+    row("output without end", "do shell script \"yes\"", 0,
+        "The command wrote more than 64 MiB and was stopped. (-10000)\n");
+    row("many errors", "do shell script \"head -c 60000000 /dev/zero >&2; echo done\"", 5, "");
+    row("closed early", "do shell script \"exec >&- 2>&-; sleep 0.1; exit 3\"", 0, "non-zero status. (3)\n");
 }
 
-void TestOsascript::Hostile()
+void TestOsascript::Size()
 {
     QFETCH(const QByteArray, script);
-    QFETCH(const QByteArray, errors);
-    const Outcome outcome = RunScript(script);
-    QCOMPARE(outcome.status, 1);
-    QCOMPARE(outcome.output, "");
-    QVERIFY2(outcome.errors.endsWith(errors), outcome.errors.right(200).constData());
-}
-
-void TestOsascript::Output_data()
-{
-    QTest::addColumn<QByteArray>("command");
-    QTest::addColumn<int>("status");
-    QTest::addColumn<qsizetype>("nOutput");
-    QTest::addColumn<QByteArray>("errors");
-    QTest::newRow("much") << QByteArray("head -c 60000000 /dev/zero") << 0 << qsizetype(60'000'001)
-                          << QByteArray();
-    QTest::newRow("too much") << QByteArray("head -c 100000000 /dev/zero") << 1 << qsizetype(0)
-                              << QByteArray("The command wrote more than 64 MiB and was stopped. (-10000)\n");
-    QTest::newRow("without end") << QByteArray("yes") << 1 << qsizetype(0)
-                                 << QByteArray(
-                                        "The command wrote more than 64 MiB and was stopped. (-10000)\n");
-    QTest::newRow("many errors") << QByteArray("head -c 60000000 /dev/zero >&2; echo done") << 0
-                                 << qsizetype(5) << QByteArray();
-    QTest::newRow("closed early") << QByteArray("exec >&- 2>&-; sleep 0.1; exit 3") << 1 << qsizetype(0)
-                                  << QByteArray("non-zero status. (3)\n");
-}
-
-void TestOsascript::Output()
-{
-    QFETCH(const QByteArray, command);
-    QFETCH(const int, status);
     QFETCH(const qsizetype, nOutput);
     QFETCH(const QByteArray, errors);
-    const Outcome outcome = RunScript("do shell script \"" + command + "\"");
-    QCOMPARE(outcome.status, status);
+    const Outcome outcome = RunScript(script);
+    QCOMPARE(outcome.status, nOutput == 0 ? 1 : 0);
     QCOMPARE(outcome.output.size(), nOutput);
-    QVERIFY2(outcome.errors.endsWith(errors), outcome.errors.constData());
+    QVERIFY2(outcome.errors.endsWith(errors), outcome.errors.right(200).constData());
 }
 
 /// A command that stays is killed with all that it started, in every way it can keep us waiting.

@@ -62,7 +62,7 @@ class Kelvo:
         clock = self.directory / "clock"
         clock.with_suffix(".new").write_text(f"+{seconds}s\n")
         clock.with_suffix(".new").replace(clock)
-        self.environment |= {"LD_PRELOAD": "/usr/$LIB/faketime/libfaketimeMT.so.1", "FAKETIME_NO_CACHE": "1",
+        self.environment |= {"LD_PRELOAD": "/usr/$LIB/faketime/libfaketimeMT.so.1", "FAKETIME_NO_CACHE": "1", "FAKETIME_DISABLE_SHM": "1",
                              "FAKETIME_TIMESTAMP_FILE": str(clock),
                              "ASAN_OPTIONS": "detect_leaks=0:verify_asan_link_order=0"}
 
