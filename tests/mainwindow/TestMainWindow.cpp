@@ -1,6 +1,7 @@
 // The main window: what it draws when, and a freeing run from click to result.
 
 #include "dialogs/DialogWarning.h"
+#include "freeing/TerminableThread.h"
 #include "tests/support/RunningApp.h"
 
 #include <QCheckBox>
@@ -170,6 +171,9 @@ void TestMainWindow::watchdog()
     Window()->OnFreeMem();
     QTest::qWait(100);
     QTest::ignoreMessage(QtDebugMsg, "terminated");
+    // The thread's end is long in coming: told only when its successor is there already.
+    connect(Window()->findChild<TerminableThread *>(), &TerminableThread::terminated,
+            [] { QTest::qSleep(150); });
     Window()->Abort();
     QTRY_VERIFY(!IsFreeing());
     QTest::qWait(200);
