@@ -2,10 +2,13 @@
 
 #include "app/ReminderRule.h"
 #include "app/SettingsRecord.h"
+#include "mainwindow/UsageCounters.h"
 #include "tests/support/FailOnWarnings.h"
 
 #include <QDir>
 #include <QSettings>
+
+#include <limits>
 
 class TestSettings : public QObject
 {
@@ -22,6 +25,7 @@ private slots:
     void windowFlags();
     void reminderIsDue_data();
     void reminderIsDue();
+    void usage();
 };
 
 void TestSettings::initTestCase()
@@ -138,6 +142,26 @@ void TestSettings::reminderIsDue()
     QVERIFY(!IsReminderDue(record, stats)); // not asked for
     record[QStringLiteral("Remind")] = true;
     QTEST(IsReminderDue(record, stats), "bDue");
+}
+
+void TestSettings::usage()
+{
+    const int nMost = std::numeric_limits<int>::max();
+    const struct
+    {
+        UsageCounter counter;
+        const char *key;
+        int nEnough;
+    } counters[] = {{UsageCounter::Starts, "Application/StartCount", 16},
+                    {UsageCounter::FreeingRuns, "Application/ExecCount", 21}};
+    for (const auto &[counter, key, nEnough] : counters) {
+        const QString name = QString::fromLatin1(key);
+        for (const int nBefore : {0, nEnough - 1, nEnough, nMost}) {
+            QSettings().setValue(name, nBefore);
+            QCOMPARE(CountUsage(counter), nBefore >= nEnough);
+            QCOMPARE(QSettings().value(name).toInt(), nBefore == nMost ? nMost : nBefore + 1);
+        }
+    }
 }
 
 QTEST_GUILESS_MAIN(TestSettings)
