@@ -83,8 +83,9 @@ void DialogPreferences::StandClearOf(const QWidget *other)
 {
     const QRect taken = other->frameGeometry();
     const bool bCovers = other->isVisible() && other->windowFlags().testFlag(Qt::WindowStaysOnTopHint);
-    // Before the first show only the window manager knows where it would open.
-    if (!bCovers || (windowHandle() && !frameGeometry().intersects(taken))) {
+    // An open panel stands where the user wants it. Before the first show only the window manager knows where
+    // it would open.
+    if (!bCovers || isVisible() || (windowHandle() && !frameGeometry().intersects(taken))) {
         return;
     }
     constexpr int gap = 16; // and what the panel's own frame needs
