@@ -1,13 +1,18 @@
 #include "compat/MemoryFigures.h"
 
-#include "compat/Files.h"
+#include "compat/KernelCall.h"
 
 #include <algorithm>
+#include <cerrno>
 #include <charconv>
 #include <dirent.h>
+#include <fcntl.h>
 #include <optional>
 #include <span>
 #include <string_view>
+#include <sys/syscall.h>
+
+// Nothing here allocates memory or calls the C library: osascript asks for the figures before that has begun.
 
 namespace {
 
@@ -15,6 +20,36 @@ constexpr std::uint64_t nKiBPerPage = 4;
 constexpr std::uint64_t nBytesPerPage = 4096;
 /// A total beyond this is no memory but a broken file: 2^40 KiB is 2^50 bytes, a PiB.
 constexpr std::uint64_t nMaxTotalKiB = std::uint64_t(1) << 40;
+
+/// What is beyond it is not read. The kernel's files take 2 to 8 KiB, and only what they take is touched.
+using Buffer = std::array<char, 65536>;
+
+/// @return a descriptor, or the negative error number
+int Open(int directory, const char *path, int flags = O_RDONLY)
+{
+    return static_cast<int>(KernelCall(SYS_openat, directory, KernelArgument(path), flags | O_CLOEXEC));
+}
+
+/// @param error  set to the error number where nothing could be read
+std::string_view ReadFile(int directory, const char *path, Buffer &buffer, int &error)
+{
+    const int descriptor = Open(directory, path);
+    long nNow = descriptor;
+    std::size_t n = 0;
+    while (descriptor >= 0 && n < buffer.size()) {
+        nNow = KernelCall(SYS_read, descriptor, KernelArgument(buffer.data() + n),
+                          static_cast<long>(buffer.size() - n));
+        if (nNow <= 0) {
+            break;
+        }
+        n += static_cast<std::size_t>(nNow);
+    }
+    if (descriptor >= 0) {
+        KernelCall(SYS_close, descriptor);
+    }
+    error = nNow < 0 ? static_cast<int>(-nNow) : 0;
+    return {buffer.data(), n};
+}
 
 struct Field
 {
@@ -51,12 +86,13 @@ void ParseFields(std::string_view report, char separator, std::span<Field> field
     }
 }
 
-bool ReadDivision(const std::string &path, MemoryFigures &figures, std::string &error)
+MemoryProblem ReadDivision(int root, MemoryFigures &figures)
 {
-    std::string report;
-    if (!ReadFile(path, report)) {
-        error = "cannot read " + path + ": " + LastError();
-        return false;
+    Buffer buffer;
+    int error = 0;
+    const std::string_view report = ReadFile(root, "proc/meminfo", buffer, error);
+    if (error != 0) {
+        return {MemoryProblem::Unreadable, static_cast<std::uint64_t>(error)};
     }
 
     enum
@@ -78,16 +114,15 @@ bool ReadDivision(const std::string &path, MemoryFigures &figures, std::string &
     ParseFields(report, ':', fields);
     const auto pages = [&fields](auto field) { return fields[field].value.value_or(0) / nKiBPerPage; };
 
-    for (const auto needed : {MemTotal, MemFree}) {
-        if (!fields[needed].value) {
-            error = path + " does not say " + std::string(fields[needed].name);
-            return false;
-        }
+    if (!fields[MemTotal].value) {
+        return {MemoryProblem::NoTotal};
+    }
+    if (!fields[MemFree].value) {
+        return {MemoryProblem::NoFree};
     }
     const std::uint64_t nTotal = pages(MemTotal);
     if (nTotal == 0 || fields[MemTotal].value > nMaxTotalKiB) {
-        error = path + " gives a senseless MemTotal: " + std::to_string(*fields[MemTotal].value) + " kB";
-        return false;
+        return {MemoryProblem::SenselessTotal, *fields[MemTotal].value};
     }
 
     // Only clean cache at the cold end of its list can be given back, so that alone is "inactive": since
@@ -119,38 +154,50 @@ bool ReadDivision(const std::string &path, MemoryFigures &figures, std::string &
     figures[Anonymous] = pages(ActAnon) + nInactiveAnon;
     figures[StoredInCompressor] = pages(Zswapped);
     figures[OccupiedByCompressor] = pages(Zswap);
-    return true;
+    return {};
 }
 
-/// Compressed block devices, mostly used for swap: bytes stored, bytes after compression, bytes of memory
-/// used. Their numbers need not follow one another.
-void AddZram(const std::string &root, MemoryFigures &figures)
+/// A device's bytes stored, bytes after compression, bytes of memory used.
+void AddZramDevice(std::string_view report, MemoryFigures &figures)
 {
-    const std::string directory = root + "/sys/block/";
-    DIR *const stream = opendir(directory.c_str());
-    std::string report;
-    while (const dirent *const device = stream != nullptr ? readdir(stream) : nullptr) {
-        const std::string name = device->d_name;
-        if (!name.starts_with("zram") ||
-            !ReadFile(std::string(directory).append(name).append("/mm_stat"), report)) {
-            continue;
-        }
-        std::string_view rest = report;
-        std::array<std::uint64_t, 3> nBytes = {};
-        for (std::uint64_t &number : nBytes) {
-            rest.remove_prefix(std::min(rest.find_first_not_of(' '), rest.size()));
-            number = ParseNumber(rest).value_or(0);
-            rest.remove_prefix(std::min(rest.find(' '), rest.size()));
-        }
-        figures[StoredInCompressor] += nBytes[0] / nBytesPerPage;
-        figures[OccupiedByCompressor] += nBytes[2] / nBytesPerPage;
+    std::array<std::uint64_t, 3> nBytes = {};
+    for (std::uint64_t &number : nBytes) {
+        report.remove_prefix(std::min(report.find_first_not_of(' '), report.size()));
+        number = ParseNumber(report).value_or(0);
+        report.remove_prefix(std::min(report.find(' '), report.size()));
     }
-    if (stream != nullptr) {
-        closedir(stream);
+    figures[StoredInCompressor] += nBytes[0] / nBytesPerPage;
+    figures[OccupiedByCompressor] += nBytes[2] / nBytesPerPage;
+}
+
+/// Compressed block devices, mostly used for swap. Their numbers need not follow one another.
+void AddZram(int root, MemoryFigures &figures)
+{
+    const int directory = Open(root, "sys/block", O_RDONLY | O_DIRECTORY);
+    alignas(dirent64) char entries[8192];
+    for (long nBytes = 0;
+         directory >= 0 &&
+         (nBytes = KernelCall(SYS_getdents64, directory, KernelArgument(entries), sizeof entries)) > 0;) {
+        for (long at = 0; at < nBytes;) {
+            const auto *const entry = reinterpret_cast<const dirent64 *>(entries + at);
+            at += entry->d_reclen;
+            int error = 0;
+            const int device = std::string_view(entry->d_name).starts_with("zram")
+                                   ? Open(directory, entry->d_name, O_PATH)
+                                   : -1;
+            if (device >= 0) {
+                Buffer buffer;
+                AddZramDevice(ReadFile(device, "mm_stat", buffer, error), figures);
+                KernelCall(SYS_close, device);
+            }
+        }
+    }
+    if (directory >= 0) {
+        KernelCall(SYS_close, directory);
     }
 }
 
-void ReadCounters(const std::string &path, std::uint64_t kernelPageBytes, MemoryFigures &figures)
+void ReadCounters(int root, std::uint64_t kernelPageBytes, MemoryFigures &figures)
 {
     enum
     {
@@ -166,10 +213,9 @@ void ReadCounters(const std::string &path, std::uint64_t kernelPageBytes, Memory
     };
     Field fields[] = {{"pgfault"}, {"pgactivate"}, {"pglazyfreed"}, {"zswpin"}, {"zswpout"},
                       {"pgpgin"},  {"pgpgout"},    {"pswpin"},      {"pswpout"}};
-    std::string report;
-    if (ReadFile(path, report)) {
-        ParseFields(report, ' ', fields);
-    }
+    Buffer buffer;
+    int error = 0;
+    ParseFields(ReadFile(root, "proc/vmstat", buffer, error), ' ', fields);
     const auto count = [&fields](auto field) { return fields[field].value.value_or(0); };
     const auto pages = [&](auto field) { return count(field) * (kernelPageBytes / nBytesPerPage); };
 
@@ -187,14 +233,18 @@ void ReadCounters(const std::string &path, std::uint64_t kernelPageBytes, Memory
 
 } // namespace
 
-bool ReadMemoryFigures(const std::string &root, std::uint64_t kernelPageBytes, MemoryFigures &figures,
-                       std::string &error)
+MemoryProblem ReadMemoryFigures(const char *root, std::uint64_t kernelPageBytes, MemoryFigures &figures)
 {
     figures = {};
-    if (!ReadDivision(root + "/proc/meminfo", figures, error)) {
-        return false;
+    const int directory = Open(AT_FDCWD, root, O_PATH | O_DIRECTORY);
+    if (directory < 0) {
+        return {MemoryProblem::Unreadable, static_cast<std::uint64_t>(-directory)};
     }
-    AddZram(root, figures);
-    ReadCounters(root + "/proc/vmstat", kernelPageBytes, figures);
-    return true;
+    const MemoryProblem problem = ReadDivision(directory, figures);
+    if (!problem) {
+        AddZram(directory, figures);
+        ReadCounters(directory, kernelPageBytes, figures);
+    }
+    KernelCall(SYS_close, directory);
+    return problem;
 }

@@ -2,14 +2,14 @@
 
 #include "compat/MemoryFigures.h"
 
+#include <string_view>
+
+constexpr std::string_view memoryReportHeader = "Mach Virtual Memory Statistics: (page size of 4096 bytes)\n";
+
+constexpr std::size_t nMaxReportBytes = 1280;
+using ReportBuffer = std::array<char, nMaxReportBytes>;
+
 /// The report in the form that macOS prints: a header line, then a line of 48 characters per figure, full
 /// stop included; every line ends with a line feed.
-std::string MemoryReport(const MemoryFigures &figures);
-
-/// The two header lines above a table that grows by a line per interval.
-std::string MemoryTableHeader();
-
-/// One line of that table: amounts of memory as they are, counters as the difference to an earlier moment
-/// (never negative; all zero for the first line, which so shows the totals). Numbers too wide for their
-/// column are cut to thousands with K, M or G behind.
-std::string MemoryTableLine(const MemoryFigures &now, const MemoryFigures &before);
+/// @param buffer  holds the text that is returned
+std::string_view MemoryReport(const MemoryFigures &figures, ReportBuffer &buffer);

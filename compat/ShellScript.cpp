@@ -1,6 +1,6 @@
 #include "compat/ShellScript.h"
 
-#include "compat/Files.h"
+#include "compat/MemoryProblemText.h"
 #include "compat/MemoryReport.h"
 #include "compat/Programs.h"
 #include "compat/RunShell.h"
@@ -36,11 +36,13 @@ ShellOutcome RunMemoryReport()
 {
     ShellOutcome outcome;
     MemoryFigures figures;
-    if (ReadMemoryFigures("", static_cast<std::uint64_t>(sysconf(_SC_PAGESIZE)), figures, outcome.errors)) {
-        outcome.output = MemoryReport(figures);
-    } else {
-        outcome.errors.insert(0, "vm_stat: ");
+    const auto kernelPageBytes = static_cast<std::uint64_t>(sysconf(_SC_PAGESIZE));
+    if (const MemoryProblem problem = ReadMemoryFigures("/", kernelPageBytes, figures)) {
+        outcome.errors = "vm_stat: " + MemoryProblemText(problem);
         outcome.nStatus = 1;
+    } else {
+        ReportBuffer buffer;
+        outcome.output = MemoryReport(figures, buffer);
     }
     return outcome;
 }

@@ -2,6 +2,7 @@
 #include "compat/Evaluator.h"
 #include "compat/Files.h"
 #include "compat/Parser.h"
+#include "compat/ReadAhead.h"
 
 #include <algorithm>
 #include <cerrno>
@@ -9,6 +10,8 @@
 #include <getopt.h>
 #include <strings.h>
 #include <unistd.h>
+
+ReadAhead readAhead = {};
 
 namespace {
 
@@ -58,8 +61,12 @@ int Fail(const std::string &file, std::string_view script, const ScriptError &er
 bool ReadScript(const std::string &file, std::string &script)
 {
     const int descriptor = file.empty() ? STDIN_FILENO : open(file.c_str(), O_RDONLY | O_CLOEXEC);
-    if (descriptor < 0 || !ReadAll(descriptor, nMaxScriptBytes + 1, script)) {
+    const bool bEnd = file.empty() && readAhead.bEnd;
+    if (!bEnd && (descriptor < 0 || !ReadAll(descriptor, nMaxScriptBytes + 1, script))) {
         return false;
+    }
+    if (file.empty()) {
+        script.insert(0, readAhead.bytes.data(), readAhead.nBytes);
     }
     errno = EFBIG;
     return script.size() <= nMaxScriptBytes;

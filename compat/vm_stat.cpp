@@ -1,6 +1,8 @@
 // vm_stat: how the machine's memory is divided, in the form that macOS prints.
 #include "compat/Files.h"
+#include "compat/MemoryProblemText.h"
 #include "compat/MemoryReport.h"
+#include "compat/MemoryTable.h"
 
 #include <cerrno>
 #include <charconv>
@@ -65,15 +67,15 @@ int Print(double nSecondsInterval, long nLines)
             }
         }
         MemoryFigures now = {};
-        std::string error;
-        if (!ReadMemoryFigures("", kernelPageBytes, now, error)) {
-            return Fail(error, NoFigures);
+        if (const MemoryProblem problem = ReadMemoryFigures("/", kernelPageBytes, now)) {
+            return Fail(MemoryProblemText(problem), NoFigures);
         }
+        ReportBuffer buffer;
         std::string text;
         if (bTable && nLine % nLinesPerHeader == 0) {
             text = MemoryTableHeader();
         }
-        text += bTable ? MemoryTableLine(now, before) : MemoryReport(now);
+        text += bTable ? MemoryTableLine(now, before) : std::string(MemoryReport(now, buffer));
         if (!WriteAll(STDOUT_FILENO, text)) {
             return Fail("cannot write: " + LastError(), NoFigures);
         }

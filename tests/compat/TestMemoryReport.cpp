@@ -1,4 +1,6 @@
+#include "compat/MemoryProblemText.h"
 #include "compat/MemoryReport.h"
+#include "compat/MemoryTable.h"
 #include "tests/compat/RunProgram.h"
 #include "tests/memfree/TemporaryTree.h"
 
@@ -20,11 +22,11 @@ quint64 Sum(const MemoryFigures &figures)
 }
 
 /// Of a system whose proc/meminfo has this content, and nothing else.
-bool ReadFrom(const QByteArray &meminfo, MemoryFigures &figures, std::string &error)
+MemoryProblem ReadFrom(const QByteArray &meminfo, MemoryFigures &figures)
 {
     const TemporaryTree root;
     root.Write("proc/meminfo", meminfo);
-    return ReadMemoryFigures(root.Path(), 4096, figures, error);
+    return ReadMemoryFigures(root.Path().c_str(), 4096, figures);
 }
 
 } // namespace
@@ -64,10 +66,10 @@ void TestMemoryReport::Report()
     const QString fixture = QStringLiteral(FIXTURES "/memory/") + QTest::currentDataTag();
 
     MemoryFigures figures;
-    std::string error;
-    QVERIFY2(ReadMemoryFigures(fixture.toStdString(), kernelPageBytes, figures, error), error.c_str());
+    QCOMPARE(ReadMemoryFigures(qPrintable(fixture), kernelPageBytes, figures).kind, MemoryProblem::None);
 
-    const QByteArray report = QByteArray::fromStdString(MemoryReport(figures));
+    ReportBuffer buffer;
+    const QByteArray report = QByteArray::fromStdString(std::string(MemoryReport(figures, buffer)));
     const QByteArray expected = Content(fixture + "/vm_stat.txt");
     QCOMPARE(report.split('\n'), expected.split('\n'));
     const auto total = QRegularExpression("^MemTotal: +(\\d+)").match(Content(fixture + "/proc/meminfo"));
@@ -118,8 +120,7 @@ void TestMemoryReport::Division()
     QFETCH(const QList<quint64>, division);
 
     MemoryFigures figures;
-    std::string error;
-    QVERIFY2(ReadFrom(meminfo, figures, error), error.c_str());
+    QCOMPARE(ReadFrom(meminfo, figures).kind, MemoryProblem::None);
     QCOMPARE((QList<quint64>{figures[Free], figures[Active], figures[Inactive], figures[WiredDown]}),
              division);
 }
@@ -141,12 +142,11 @@ void TestMemoryReport::Refusal()
     QFETCH(const QByteArray, meminfo);
     QFETCH(const QString, error);
     MemoryFigures figures;
-    std::string told;
-    QVERIFY(!ReadFrom(meminfo, figures, told));
+    const std::string told = MemoryProblemText(ReadFrom(meminfo, figures));
     QVERIFY2(QString::fromStdString(told).contains(error), told.c_str());
 
-    QVERIFY(!ReadMemoryFigures("/nonexistent", 4096, figures, told));
-    QCOMPARE(told, "cannot read /nonexistent/proc/meminfo: No such file or directory");
+    const MemoryProblem unreadable = ReadMemoryFigures("/nonexistent", 4096, figures);
+    QCOMPARE(MemoryProblemText(unreadable), "cannot read /proc/meminfo: No such file or directory");
 }
 
 void TestMemoryReport::Table()
