@@ -6,6 +6,7 @@
 #include "memfree/MemoryState.h"
 #include "memfree/PressureChild.h"
 #include "memfree/PressureFile.h"
+#include "memfree/Reader.h"
 
 #include <algorithm>
 #include <ctime>
@@ -64,6 +65,9 @@ void LetKernelCatchUp(const std::string &proc, std::uint64_t nKernelReserve)
 Stop Check(const std::string &proc, const std::string &cgroup, const MemoryState &before,
            const PressureProgress &progress, bool bStepDone, std::uint64_t &nFree)
 {
+    if (IsReaderGone()) {
+        return Stop::NobodyWaits;
+    }
     MemoryState now;
     std::string error;
     if (!ReadMemoryState(proc, now, error)) {

@@ -7,6 +7,7 @@
 #include "memfree/Pressure.h"
 #include "memfree/PressureFile.h"
 #include "memfree/Progress.h"
+#include "memfree/Reader.h"
 
 #include <cstdio>
 #include <unistd.h>
@@ -117,6 +118,9 @@ private:
     Stop ReclaimCgroups()
     {
         const auto check = [this] {
+            if (IsReaderGone()) {
+                return Stop::NobodyWaits;
+            }
             MemoryState now;
             std::string error;
             return ReadMemoryState(proc, now, error) ? CheckHarm(before, now, msNow() - msStarted)

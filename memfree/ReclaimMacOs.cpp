@@ -8,6 +8,7 @@
 #include "memfree/ByteCount.h"
 #include "memfree/MemoryState.h"
 #include "memfree/Progress.h"
+#include "memfree/Reader.h"
 #include "memfree/StoppingRule.h"
 
 #include <algorithm>
@@ -97,6 +98,8 @@ Stop Press(const MemoryState &before, std::uint64_t nBound, std::uint64_t msStar
         std::string error;
         if (!Look(now, error)) {
             stop = Stop::Failed;
+        } else if (IsReaderGone()) {
+            stop = Stop::NobodyWaits;
         } else {
             stop = IsPressureNormal() ? CheckPressure(before, now, progress) : Stop::ShortOfMemory;
         }

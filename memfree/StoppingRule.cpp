@@ -96,6 +96,8 @@ const char *Describe(Stop stop)
         return "cache in use was being evicted";
     case Stop::Deadline:
         return "it took too long";
+    case Stop::NobodyWaits:
+        return "nobody waits for it";
     case Stop::Failed:
         return "the system refused more";
     case Stop::None:

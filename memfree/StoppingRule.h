@@ -21,6 +21,8 @@ enum class Stop
     EvictingInUse,
     /// It takes too long.
     Deadline,
+    /// Whoever asked for it is gone.
+    NobodyWaits,
     /// A system call said no, or the child is gone.
     Failed
 };
