@@ -5,12 +5,11 @@
 #include "dialogs/DialogPreferences.h"
 #include "dialogs/DialogReminder.h"
 #include "mainwindow/MainDialog.h"
+#include "platform/SuddenExit.h"
 
 #include <QAction>
 #include <QEvent>
 #include <QIcon>
-
-#include <cstdlib>
 
 MyApp::MyApp(int &argc, char **argv) : QtSingleApplication(argc, argv, true)
 {
@@ -27,10 +26,17 @@ MyApp::~MyApp()
     // Unconditional: a copy that only handed its message over stores an empty record here, and the running
     // copy's own end puts the full one back.
     SaveSettings(settings);
+    CallBeforeSuddenExit(nullptr, nullptr);
     delete dialogPreferences;
     delete mainDialog;
     delete dialogAbout;
     delete dialogReminder;
+}
+
+void MyApp::Save()
+{
+    SaveSettings(settings);
+    mainDialog->SaveState();
 }
 
 void MyApp::InitializeWidgets()
@@ -67,12 +73,7 @@ void MyApp::InitializeWidgets()
     connect(dialogReminder, SIGNAL(rejected()), this, SLOT(OnRemindRejected()));
 
     settings = LoadSettings();
-    // An X server that goes away makes Qt call exit(), where no destructor of the application's runs.
-    std::atexit([] {
-        if (const auto *app = qobject_cast<MyApp *>(qApp)) {
-            SaveSettings(app->settings);
-        }
-    });
+    CallBeforeSuddenExit(this, "Save");
     SetStyle(settings[QStringLiteral("WindowStyle")].toInt());
     dialogPreferences->SetSettings(settings);
     OnSettingChanged();

@@ -45,6 +45,8 @@ public slots:
     void OnRemindRejected();
     void OnMessageReceived(QString message);
     void ResetReminder();
+    /// Saves what the end of the program would, for an end that comes without a destructor.
+    void Save();
 
 protected:
     bool event(QEvent *event) override;

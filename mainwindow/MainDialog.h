@@ -28,6 +28,8 @@ public:
     void ShowStartUpMessage();
     /// Draws the chart of the latest sample, 72 x 72 pixels.
     QPixmap CreatePieChart();
+    /// Stores what is kept of the window itself: its place, and whether to warn before freeing.
+    void SaveState();
     /// Puts the window's frame at a point of the desktop, where a window may choose its place at all.
     void Place(const QPoint &frameTopLeft);
     /// Keeps the texts that the style sheet colours readable on the desktop's palette. To be called whenever
@@ -63,7 +65,6 @@ protected:
 private:
     void CreateWorker();
     void RestoreState();
-    void SaveState();
     void CountStart();
     void ShowFigures();
     void ShowPieChart();

@@ -64,6 +64,7 @@ class X11(Sessions):
         self.desktop.spawned[0].kill()
         self.assertEnded(1)
         self.assertTrue(self.stored())
+        self.assertIn("MainWindow/Position", self.kelvo.settings())
 
     def asked(self):
         return (self.kelvo.directory / "asked").stat().st_size
@@ -121,12 +122,16 @@ class Wayland(Sessions):
         self.log_out(signal.SIGTERM)
 
     def test_compositor_gone(self):
-        """Qt leaves at once and nothing more is stored, but what was stored is whole."""
-        self.kelvo.store({"RemindThreshold": 2.5})
         self.start_and_change()
         self.desktop.run("swaymsg", "exit", check=False)
         self.assertEnded(1)
-        self.assertEqual(self.kelvo.settings()["Application/Settings"], {"RemindThreshold": 2.5})
+        self.assertTrue(self.stored())
+
+    def test_compositor_killed(self):
+        self.start_and_change()
+        self.desktop.run("pkill", "-KILL", "-P", str(os.getpid()), "sway")
+        self.assertEnded(1)
+        self.assertTrue(self.stored())
 
 
 if __name__ == "__main__":
