@@ -79,11 +79,12 @@ bool ReadMemoryState(const std::string &proc, MemoryState &state, std::string &e
         return false;
     }
     if (ReadFile(proc + "/vmstat", report)) {
+        const auto nPageBytes = static_cast<std::uint64_t>(sysconf(_SC_PAGESIZE));
         // Before kernel 5.9 one counter held both kinds.
         const auto nPages = FindField(report, "workingset_refault_file");
         const auto nPagesOld = FindField(report, "workingset_refault");
-        state.nRefaulted =
-            nPages.value_or(nPagesOld.value_or(0)) * static_cast<std::uint64_t>(sysconf(_SC_PAGESIZE));
+        state.nRefaulted = nPages.value_or(nPagesOld.value_or(0)) * nPageBytes;
+        state.nFileReclaimed = FindField(report, "pgsteal_file").value_or(0) * nPageBytes;
     }
     if (ReadFile(proc + "/pressure/memory", report)) {
         state.usStalled = ParseStalled(report).value_or(0);

@@ -62,7 +62,7 @@ void LetKernelCatchUp(const std::string &proc, std::uint64_t nKernelReserve)
     }
 }
 
-Stop Check(const std::string &proc, const std::string &cgroup, const MemoryState &before,
+Stop Check(const std::string &proc, const std::string &cgroup, const PressureRequest &request,
            const PressureProgress &progress, bool bStepDone, std::uint64_t &nFree)
 {
     if (IsReaderGone()) {
@@ -80,7 +80,8 @@ Stop Check(const std::string &proc, const std::string &cgroup, const MemoryState
             return Stop::ShortOfMemory;
         }
     }
-    return bStepDone ? CheckPressure(before, now, progress) : CheckHarm(before, now, progress.msElapsed);
+    return bStepDone ? CheckPressure(*request.before, *request.first, now, progress)
+                     : CheckHarm(*request.before, now, progress.msElapsed);
 }
 
 } // namespace
@@ -139,7 +140,7 @@ Stop Press(const std::string &proc, const std::string &cgroup, const PressureReq
                 request.onProgress(progress);
             }
             progress.msElapsed = msNow() - request.msStarted;
-            stop = Check(proc, cgroup, *request.before, progress, bReplied, nFree);
+            stop = Check(proc, cgroup, request, progress, bReplied, nFree);
             if (bReplied) {
                 break;
             }

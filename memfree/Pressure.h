@@ -10,8 +10,10 @@ struct PressureRequest
     /// Where the file goes; empty for anonymous pressure.
     std::string directory;
     std::uint64_t nBound = 0;
-    /// The situation that harm is measured against, and when it was (monotonic, milliseconds).
+    /// The situation that harm is measured against, when it was (monotonic, milliseconds), and the situation
+    /// now.
     const MemoryState *before = nullptr;
+    const MemoryState *first = nullptr;
     std::uint64_t msStarted = 0;
     std::function<void(const PressureProgress &)> onProgress;
 };

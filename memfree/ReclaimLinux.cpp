@@ -148,6 +148,7 @@ private:
         }
         request.nBound = decision.nBound;
         request.before = &before;
+        request.first = &place.situation.memory;
         request.msStarted = msStarted;
         request.onProgress = [&bar](const PressureProgress &now) { bar.Show(now.nResident, now.nBound); };
         return Press(proc, cgroup, request);

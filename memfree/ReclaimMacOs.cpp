@@ -101,7 +101,7 @@ Stop Press(const MemoryState &before, std::uint64_t nBound, std::uint64_t msStar
         } else if (IsReaderGone()) {
             stop = Stop::NobodyWaits;
         } else {
-            stop = IsPressureNormal() ? CheckPressure(before, now, progress) : Stop::ShortOfMemory;
+            stop = IsPressureNormal() ? CheckPressure(before, before, now, progress) : Stop::ShortOfMemory;
         }
     }
     munmap(memory, nBound);

@@ -72,12 +72,15 @@ std::uint64_t InactiveLeft(const MemoryState &before, const MemoryState &now,
     return Growth(nOwn + before.nActiveFile, now.nActiveFile + now.nInactiveFile);
 }
 
-Stop CheckPressure(const MemoryState &before, const MemoryState &now, const PressureProgress &progress)
+Stop CheckPressure(const MemoryState &before, const MemoryState &first, const MemoryState &now,
+                   const PressureProgress &progress)
 {
     if (const Stop harm = CheckHarm(before, now, progress.msElapsed); harm != Stop::None) {
         return harm;
     }
-    if (InactiveLeft(before, now, progress) < WorthFreeing(now.nTotal) / 4) {
+    const std::uint64_t nOwnTaken = progress.bFileCache ? Growth(progress.nResident, progress.nPressed) : 0;
+    const std::uint64_t nTaken = Growth(nOwnTaken, Growth(first.nFileReclaimed, now.nFileReclaimed));
+    if (nTaken >= first.nInactiveFile || InactiveLeft(before, now, progress) < WorthFreeing(now.nTotal) / 4) {
         return Stop::NothingLeft;
     }
     return progress.nResident >= progress.nBound ? Stop::Bound : Stop::None;

@@ -72,8 +72,12 @@ Stop CheckHarm(const MemoryState &before, const MemoryState &now, std::uint64_t 
 std::uint64_t InactiveLeft(const MemoryState &before, const MemoryState &now,
                            const PressureProgress &progress);
 
-/// The same for pressure, with its own ends: the bound, and nothing left to press out.
-Stop CheckPressure(const MemoryState &before, const MemoryState &now, const PressureProgress &progress);
+/// CheckHarm() for pressure, with its own ends: the bound, and nothing left to press out. Where others fill
+/// the cache meanwhile that never comes, so as much as was inactive at first is all that is taken.
+/// @param before  when the run began
+/// @param first   when this pressure began, after other ways
+Stop CheckPressure(const MemoryState &before, const MemoryState &first, const MemoryState &now,
+                   const PressureProgress &progress);
 
 /// For people, as in "stopped: ..."; nullptr where the end needs no explanation.
 const char *Describe(Stop stop);

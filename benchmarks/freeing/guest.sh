@@ -53,6 +53,14 @@ case_() {
 }
 as_user() { su user -c "HOME=/disk/home memfree $bytes"; }
 without_disk() { su user -c "HOME=/ XDG_CACHE_HOME=/tmp memfree $bytes"; }
+# Every page of the swap is in use: what is there may be taken back to memory, but nothing more can go out.
+fill_swap() {
+    swapon /dev/vdb 2>/dev/null
+    mkdir -p /sys/fs/cgroup/filler
+    (echo 0 >/sys/fs/cgroup/filler/cgroup.procs; exec dd if=/dev/zero of=/tmp/fill bs=1M count=540 2>/dev/null)
+    echo 540M >/sys/fs/cgroup/filler/memory.reclaim 2>/dev/null
+    name="$name: $(($(field /proc/meminfo SwapFree:) / 1024)) MiB of it free"
+}
 in_group() { (echo 0 >"$1/cgroup.procs"; shift; "$@"); }
 
 bytes=2200000000
@@ -72,6 +80,10 @@ case_ "user" : as_user
     echo "$was" >/sys/kernel/mm/lru_gen/enabled
 }
 case_ "user, swap" "swapon /dev/vdb" as_user
+swapoff /dev/vdb 2>/dev/null
+case_ "user, swap full" fill_swap as_user
+case_ "user, swap full, only in memory" fill_swap without_disk
+rm -f /tmp/fill
 swapoff /dev/vdb 2>/dev/null
 chown 1000 $app/memory.reclaim
 reader_group=$app
