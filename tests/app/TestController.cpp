@@ -1,11 +1,33 @@
 // The controller with all its windows, over a fake interpreter: what the end-to-end tests cannot reach.
 
+#include "dialogs/DialogStartUpInfo.h"
+#include "dialogs/DialogWarning.h"
 #include "tests/support/RunningApp.h"
 
 #include <QAbstractButton>
 #include <QLabel>
 #include <QMenu>
 #include <QSignalSpy>
+
+#include <algorithm>
+
+namespace {
+
+/// On the screen: how much brighter or darker than a widget's ground is what differs most from it.
+int PaintedContrast(QWidget *widget)
+{
+    const QRect area(widget->mapTo(widget->window(), QPoint(0, 0)), widget->size());
+    const QImage image = widget->window()->grab(area).toImage();
+    QList<int> grays;
+    for (int nPixel = 0; nPixel < image.width() * image.height(); ++nPixel) {
+        grays << qGray(image.pixel(nPixel % image.width(), nPixel / image.width()));
+    }
+    std::sort(grays.begin(), grays.end());
+    const int ground = grays[grays.size() / 2];
+    return qMax(ground - grays.first(), grays.last() - ground);
+}
+
+} // namespace
 
 class TestController : public QObject
 {
@@ -14,7 +36,7 @@ class TestController : public QObject
 private slots:
     void init();
     void settingsLeaveTheWindowAlone();
-    void readableOnADarkDesktop();
+    void readableTexts();
     void swatch();
     void minimisedWindowComesBack();
     void systemQuitRequest();
@@ -42,22 +64,42 @@ void TestController::settingsLeaveTheWindowAlone()
     QCOMPARE(hidden.count(), 0);
 }
 
-void TestController::readableOnADarkDesktop()
+void TestController::readableTexts()
 {
-    const QPalette light = QApplication::palette();
+    const QPalette usual = QApplication::palette();
     {
         RunningApp running;
-        QApplication::setPalette(QPalette(QColor(40, 40, 44)));
-        running.app.SetStyle(0);
-        Click("checkBoxNoTitleBar"); // new flags polish the window anew
-        Apply();
-        const auto *label = RunningApp::Find<QLabel>("labelInactive");
-        const auto gray = [](const QWidget *widget, QPalette::ColorRole role) {
-            return qGray(widget->palette().color(role).rgb());
-        };
-        QVERIFY(qAbs(gray(label, QPalette::WindowText) - gray(label->window(), QPalette::Window)) > 100);
+        auto *window = RunningApp::Window<MainDialog>();
+        for (const QColor &desktop : {QColor(0xee, 0xee, 0xec), QColor(0x2a, 0x2e, 0x32)}) {
+            QApplication::setPalette(QPalette(desktop));
+            for (const int style : {0, 1, 0}) {
+                running.app.SetStyle(style);
+                Click("checkBoxNoTitleBar"); // new flags polish the window anew
+                Apply();
+                DialogWarning warning(window); // the sheet's rule for the main window reaches its dialogs
+                DialogStartUpInfo startUpInfo(window);
+                for (QWidget *shown : std::initializer_list<QWidget *>{window, &warning, &startUpInfo}) {
+                    shown->show();
+                    QVERIFY(QTest::qWaitForWindowExposed(shown));
+                    for (QWidget *text : shown->findChildren<QWidget *>()) {
+                        if (text->window() == shown && text->isVisible() &&
+                            (qobject_cast<QLabel *>(text) || qobject_cast<QAbstractButton *>(text))) {
+                            QVERIFY2(PaintedContrast(text) >= 80, qPrintable(text->objectName()));
+                        }
+                    }
+                }
+                // The style's own colours, and where they can be read the desktop's too.
+                const QPalette palette = RunningApp::Find<QLabel>("labelInactive")->palette();
+                QCOMPARE(palette.color(QPalette::WindowText),
+                         style ? QColor(0x66, 0x66, 0xff) : QColor(Qt::blue));
+                if ((desktop.lightness() < 128) == (style == 1)) {
+                    QCOMPARE(RunningApp::Find<QWidget>("pushButtonGo")->palette().color(QPalette::Button),
+                             desktop);
+                }
+            }
+        }
     }
-    QApplication::setPalette(light);
+    QApplication::setPalette(usual);
 }
 
 void TestController::swatch()

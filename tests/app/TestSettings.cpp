@@ -5,7 +5,7 @@
 #include "mainwindow/UsageCounters.h"
 #include "tests/support/FailOnWarnings.h"
 
-#include <QDir>
+#include <QFile>
 #include <QSettings>
 
 #include <limits>
@@ -19,10 +19,6 @@ private slots:
     void init();
     void defaults();
     void recordRoundTrips();
-    void hostileFiles_data();
-    void hostileFiles();
-    void windowFlags_data();
-    void windowFlags();
     void reminderIsDue_data();
     void reminderIsDue();
     void usage();
@@ -64,60 +60,6 @@ void TestSettings::recordRoundTrips()
     record[QStringLiteral("MonoColor")] = true;
     SaveSettings(record);
     QCOMPARE(LoadSettings(), record); // values and types
-}
-
-void TestSettings::hostileFiles_data()
-{
-    QTest::addColumn<QByteArray>("content");
-    QTest::newRow("empty") << QByteArray("");
-    QTest::newRow("binary") << QByteArray("\0\xff\x01[[[\n=\n", 9).repeated(1000);
-    QTest::newRow("another type") << QByteArray("[Application]\nSettings=hello\n");
-    QTest::newRow("a list") << QByteArray("[Application]\nSettings=1, 2, 3\n");
-    QTest::newRow("truncated map") << QByteArray(
-        "[Application]\nSettings=@Variant(\\0\\0\\0\\b\\0\\0\\0\\x3\\0\\0\\0\\x1\n");
-    QTest::newRow("map of four billion")
-        << QByteArray("[Application]\nSettings=@Variant(\\0\\0\\0\\b\\xff\\xff\\xff\\xfe)\n");
-    QTest::newRow("unknown type") << QByteArray("[Application]\nSettings=@Variant(\\0\\0\\xff\\b\\0\\0)\n");
-}
-
-void TestSettings::hostileFiles()
-{
-    QFETCH(QByteArray, content);
-    QFile file(QSettings().fileName());
-    QVERIFY(QDir().mkpath(QFileInfo(file).path()) && file.open(QIODevice::WriteOnly));
-    file.write(content);
-    file.close();
-    if (content.contains("xff\\b")) {
-        QTest::ignoreMessage(QtWarningMsg,
-                             QRegularExpression(QStringLiteral("^Trying to construct an instance")));
-    }
-    QVariantMap expected;
-    AddDefaultSettings(expected);
-    QCOMPARE(LoadSettings(), expected);
-}
-
-void TestSettings::windowFlags_data()
-{
-    QTest::addColumn<bool>("bNoTitleBar");
-    QTest::addColumn<bool>("bStayOnTop");
-    QTest::addColumn<int>("extra");
-    QTest::newRow("plain") << false << false << 0;
-    QTest::newRow("frameless") << true << false << int(Qt::FramelessWindowHint);
-    QTest::newRow("on top") << false << true << int(Qt::WindowStaysOnTopHint);
-    QTest::newRow("both") << true << true << int(Qt::FramelessWindowHint | Qt::WindowStaysOnTopHint);
-}
-
-void TestSettings::windowFlags()
-{
-    QFETCH(bool, bNoTitleBar);
-    QFETCH(bool, bStayOnTop);
-    QFETCH(int, extra);
-    const QVariantMap record{{QStringLiteral("NoTitleBar"), bNoTitleBar},
-                             {QStringLiteral("StayOnTop"), bStayOnTop}};
-    QCOMPARE(MainWindowFlags(record).toInt(), int(Qt::WindowSystemMenuHint) | extra);
-    QVERIFY(!NeedsWindowFlags(record, record, true));
-    QVERIFY(NeedsWindowFlags(record, record, false));
-    QCOMPARE(NeedsWindowFlags(record, {}, true), extra != 0);
 }
 
 void TestSettings::reminderIsDue_data()

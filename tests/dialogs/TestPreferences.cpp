@@ -5,24 +5,6 @@
 #include <QSignalSpy>
 #include <QtTest>
 
-namespace {
-
-QVariantMap EmptyRecord()
-{
-    return {{"AutoHide", false},   {"AutoLaunch", false},    {"StayOnTop", false},     {"WindowStyle", 0},
-            {"MonoColor", false},  {"PieChartIcon", false},  {"RemindThreshold", 0.0}, {"Remind", false},
-            {"NoTitleBar", false}, {"HideAtStartUp", false}, {"UpdateFrequency", 0}};
-}
-
-QVariantMap EmptyRecordWith(const QString &key, const QVariant &value)
-{
-    QVariantMap record = EmptyRecord();
-    record[key] = value;
-    return record;
-}
-
-} // namespace
-
 class TestPreferences : public QObject
 {
     Q_OBJECT
@@ -39,26 +21,27 @@ void TestPreferences::Record_data()
 {
     QTest::addColumn<QVariantMap>("given");
     QTest::addColumn<QVariantMap>("read");
-    QTest::newRow("empty") << QVariantMap() << EmptyRecord();
-    for (const char *key : {"PieChartIcon", "Remind"}) { // other controls follow these
-        QTest::newRow(key) << QVariantMap{{key, true}} << EmptyRecordWith(key, true);
-    }
-    QTest::newRow("text for a bool") << QVariantMap{{"StayOnTop", "true"}}
-                                     << EmptyRecordWith("StayOnTop", true);
-    QTest::newRow("list for a bool") << QVariantMap{{"StayOnTop", QVariantList{1}}} << EmptyRecord();
-
-    QTest::newRow("style of no type") << QVariantMap{{"WindowStyle", "dark"}} << EmptyRecord();
-    QTest::newRow("frequency -1") << QVariantMap{{"UpdateFrequency", -1}}
-                                  << EmptyRecordWith("UpdateFrequency", 1);
-
-    QTest::newRow("rounded") << QVariantMap{{"RemindThreshold", 1.234}}
-                             << EmptyRecordWith("RemindThreshold", 1.23);
-    QTest::newRow("above") << QVariantMap{{"RemindThreshold", 150.0}}
-                           << EmptyRecordWith("RemindThreshold", 99.99);
-    QTest::newRow("below") << QVariantMap{{"RemindThreshold", -3.0}}
-                           << EmptyRecordWith("RemindThreshold", 0.0);
-    QTest::newRow("threshold as text")
-        << QVariantMap{{"RemindThreshold", "0.5"}} << EmptyRecordWith("RemindThreshold", 0.5);
+    const QVariantMap empty{{"AutoHide", false},      {"AutoLaunch", false}, {"StayOnTop", false},
+                            {"WindowStyle", 0},       {"MonoColor", false},  {"PieChartIcon", false},
+                            {"RemindThreshold", 0.0}, {"Remind", false},     {"NoTitleBar", false},
+                            {"HideAtStartUp", false}, {"UpdateFrequency", 0}};
+    QTest::newRow("empty") << QVariantMap() << empty;
+    const auto row = [&](const char *name, const char *key, const QVariant &given, const QVariant &read) {
+        QVariantMap record = empty;
+        record[key] = read;
+        QTest::newRow(name) << QVariantMap{{key, given}} << record;
+    };
+    row("with a box that is shown", "PieChartIcon", true, true);
+    row("with a number that is enabled", "Remind", true, true);
+    row("text for a bool", "StayOnTop", "true", true);
+    row("list for a bool", "StayOnTop", QVariantList{1}, false);
+    row("style of no type", "WindowStyle", "dark", 0);
+    row("style 2", "WindowStyle", 2, 1);
+    row("frequency -1", "UpdateFrequency", -1, 1);
+    row("rounded", "RemindThreshold", 1.234, 1.23);
+    row("above", "RemindThreshold", 150.0, 99.99);
+    row("below", "RemindThreshold", -3.0, 0.0);
+    row("threshold as text", "RemindThreshold", "0.5", 0.5);
 }
 
 void TestPreferences::Record()
@@ -66,27 +49,20 @@ void TestPreferences::Record()
     QFETCH(QVariantMap, given);
     QFETCH(QVariantMap, read);
     DialogPreferences panel(nullptr);
-    // From the opposite of nearly everything, so that each control really has to move.
-    panel.SetSettings({{"AutoHide", true},
-                       {"AutoLaunch", true},
-                       {"StayOnTop", true},
-                       {"PieChartIcon", true},
-                       {"MonoColor", true},
-                       {"Remind", true},
-                       {"NoTitleBar", true},
-                       {"HideAtStartUp", true},
-                       {"WindowStyle", 1},
-                       {"UpdateFrequency", 1},
-                       {"RemindThreshold", 42.0}});
-    QSignalSpy changed(&panel, SIGNAL(SettingChanged()));
+    QVariantMap opposite{{"WindowStyle", 1}, {"UpdateFrequency", 1}, {"RemindThreshold", 42.0}};
+    for (const char *key : {"AutoHide", "AutoLaunch", "StayOnTop", "PieChartIcon", "MonoColor", "Remind",
+                            "NoTitleBar", "HideAtStartUp"}) {
+        opposite[key] = true;
+    }
+    panel.SetSettings(opposite); // so that nearly each control really has to move
+    const QSignalSpy changed(&panel, SIGNAL(SettingChanged()));
 
     panel.SetSettings(given);
     QCOMPARE(changed.count(), 0);
     const QVariantMap settings = panel.GetSettings();
-    QCOMPARE(settings.keys(), read.keys());
+    QCOMPARE(settings, read);
     for (auto it = read.cbegin(); it != read.cend(); ++it) {
-        QCOMPARE(settings.value(it.key()).typeName(), it->typeName());
-        QCOMPARE(settings.value(it.key()), it.value());
+        QCOMPARE(settings[it.key()].typeName(), it->typeName());
     }
     // What the form's own connections do otherwise.
     QCOMPARE(panel.findChild<QWidget *>("checkBoxMonoColor")->isVisibleTo(&panel),

@@ -2,8 +2,7 @@
 import time
 import unittest
 
-from case import DesktopTest
-from bus import wait_for
+from case import DesktopTest, wait_for
 
 MENU = ["Free: 1.00 GB", "Wired: 1.99 GB", "Active: 3.00 GB", "Inactive: 2.00 GB", "", "Free Memory Now!", "",
         "Kelvo Preferences...", "About Kelvo", "", "Quit"]
@@ -26,11 +25,9 @@ class Trays(DesktopTest):
         self.assertTrue(self.kelvo.window(), "a left click shows no window")
         self.assertEqual(self.kelvo.popup(lambda: self.desktop.click(icon, button=3)), MENU)
         self.desktop.run("xdotool", "key", "Escape")
-
         # It is alive: the pie comes with the first timed sample.
         x, y, width, height = self.desktop.place(icon)
-        blue = lambda: self.desktop.screenshot().pixel(x + width * 0.3, y + height / 2) == (0, 0, 255)  # noqa: E731
-        self.assertTrue(wait_for(blue), "no pie in the tray")
+        self.assertBecomes(lambda: self.desktop.screenshot().pixel(x + width * 0.3, y + height / 2), (0, 0, 255))
 
     def test_late_tray(self):
         for kind, find in {"watcher": lambda tray: tray.item(), "trayer": lambda _: self.kelvo.tray_window()}.items():
@@ -45,38 +42,20 @@ class Trays(DesktopTest):
                     self.kelvo.stop()
                     tray.kill() if kind == "trayer" else tray.close()
 
-    def test_large_panels(self):
-        self.desktop.watcher()
-        for record, width in ({}, 64), ({"MonoColor": True}, 32):
-            self.kelvo.store({"HideAtStartUp": True, **record})
-            item = self.start()
-            self.assertBecomes(lambda: item.icon().width, width)
-            self.assertIn(64, [picture.width for picture in item.icons()])
-            self.kelvo.stop()
-
-    def test_no_tray(self):
-        self.kelvo.start()
-        self.assertTrue(self.kelvo.window(10), "nothing of Kelvo can be seen")
-
     def test_tray_that_starts_anew(self):
-        tray = self.desktop.watcher()
-        self.start()
+        """First without anything that shows its icons."""
+        tray = self.desktop.watcher(hosted=False)
+        self.kelvo.start()
+        self.assertFalse(wait_for(lambda: tray.items, 1), "an icon that nobody shows")
+        tray.host()
+        self.assertTrue(tray.item(), "no icon")
         for _ in range(2):
             tray.close()
             time.sleep(0.5)
             tray = self.desktop.watcher()
             item = tray.item()
             self.assertTrue(item, "the icon does not come back")
-            self.assertEqual(item.tool_tip(), "Kelvo")
-            self.assertEqual(len(item.texts()), len(MENU))
-
-    def test_host_that_comes_after_its_watcher(self):
-        tray = self.desktop.watcher(hosted=False)
-        self.kelvo.start()
-        self.assertFalse(wait_for(lambda: tray.items, 1), "an icon that nobody shows")
-        tray.host()
-        self.assertTrue(tray.item(), "no icon")
+            self.assertEqual((item.tool_tip(), len(item.texts())), ("Kelvo", len(MENU)))
 
 
-if __name__ == "__main__":
-    unittest.main()
+unittest.main()

@@ -1,10 +1,7 @@
-// What a process shows only from inside when it is asked to end; that all of these signals save is in
-// tests/e2e.
+// What shows only inside the process that is asked to end; that all of these signals save is in tests/e2e.
 
 #include "platform/QuitOnSignal.h"
 #include "tests/support/FailOnWarnings.h"
-
-#include <QTest>
 
 #include <cerrno>
 
@@ -13,10 +10,7 @@ class TestQuitOnSignal : public QObject
     Q_OBJECT
 
 private slots:
-    void initTestCase();
-    void init() { nCloseEvents = 0; }
-    void floodOfSignals();
-    void ignoredHangUp();
+    void signalsAskTheEventLoop();
 
 protected:
     bool eventFilter(QObject *watched, QEvent *event) override
@@ -29,33 +23,24 @@ private:
     int nCloseEvents = 0;
 };
 
-void TestQuitOnSignal::initTestCase()
+void TestQuitOnSignal::signalsAskTheEventLoop()
 {
     FailOnWarnings();
     qApp->installEventFilter(this);
-}
-
-void TestQuitOnSignal::floodOfSignals()
-{
+    signal(SIGHUP, SIG_IGN);
     const QuitOnSignal quitOnSignal;
+    raise(SIGHUP);
+    QTest::qWait(50);
+    QCOMPARE(nCloseEvents, 0);
+
+    // A flood, of which only the event loop may make something: it may come in the middle of anything.
     errno = ENOSPC;
     for (int i = 0; i < 100000; ++i) {
         raise(SIGTERM);
     }
     QCOMPARE(errno, ENOSPC);
-    // Only the event loop may act: the signal may have come in the middle of anything.
     QCOMPARE(nCloseEvents, 0);
     QTRY_VERIFY(nCloseEvents > 0);
-}
-
-void TestQuitOnSignal::ignoredHangUp()
-{
-    const auto before = signal(SIGHUP, SIG_IGN);
-    const QuitOnSignal quitOnSignal;
-    raise(SIGHUP);
-    QTest::qWait(50);
-    QCOMPARE(nCloseEvents, 0);
-    signal(SIGHUP, before);
 }
 
 QTEST_GUILESS_MAIN(TestQuitOnSignal)

@@ -1,28 +1,16 @@
-// Pictures, animations and style sheets as they are compiled in. The dialogs' texts under the sheets:
-// TestReadableGround.
+// Pictures, animations and style sheets as they are compiled in. Texts under the sheets: TestReadableGround.
 
 #include "tests/support/FailOnWarnings.h"
 
-#include <QFile>
-#include <QFrame>
-#include <QImage>
 #include <QImageReader>
 #include <QLabel>
-#include <QPalette>
 #include <QtTest>
 
-namespace {
-
-// A window of the name that the sheets address, with one label of the given object name.
+// A window of the name that the sheets address.
 class MainDialog : public QFrame
 {
     Q_OBJECT
-public:
-    explicit MainDialog(const QString &objectName) : label(this) { label.setObjectName(objectName); }
-    QLabel label;
 };
-
-} // namespace
 
 class TestResources : public QObject
 {
@@ -30,39 +18,22 @@ class TestResources : public QObject
 
 private slots:
     void init() { FailOnWarnings(); }
-
-    void Pictures_data();
     void Pictures();
     void GlyphReadsOnLightAndDark();
-    void Animations_data();
     void Animations();
-    void SheetColour_data();
-    void SheetColour();
+    void SheetColours();
 };
-
-void TestResources::Pictures_data()
-{
-    QTest::addColumn<QString>("path");
-    QTest::addColumn<int>("side");
-    QTest::addColumn<bool>("bGrey");
-    QTest::newRow("glyph") << ":/app16.png" << 16 << true;
-    QTest::newRow("inverse glyph") << ":/app16_invert.png" << 16 << true;
-    QTest::newRow("application icon") << ":/app96.png" << 96 << false;
-    QTest::newRow("pie") << ":/piechart.png" << 16 << false;
-}
 
 void TestResources::Pictures()
 {
-    QFETCH(QString, path);
-    QFETCH(int, side);
-    const QImage image(path, "PNG");
-    QCOMPARE(image.size(), QSize(side, side));
-    QTEST(image.allGray(), "bGrey");
-    for (const int x : {0, side - 1}) {
-        QCOMPARE(qAlpha(image.pixel(x, 0)), 0);
-        QCOMPARE(qAlpha(image.pixel(x, side - 1)), 0);
+    const QMap<QString, int> sides = {
+        {":/app16.png", 16}, {":/app16_invert.png", 16}, {":/app96.png", 96}, {":/piechart.png", 16}};
+    for (auto it = sides.begin(); it != sides.end(); ++it) {
+        const QImage image(it.key(), "PNG");
+        QCOMPARE(image.size(), QSize(it.value(), it.value()));
+        QCOMPARE(qAlpha(image.pixel(0, 0)), 0);
+        QVERIFY(qAlpha(image.pixel(it.value() / 2, it.value() / 2)) > 200);
     }
-    QVERIFY(qAlpha(image.pixel(side / 2, side / 2)) > 200);
 }
 
 void TestResources::GlyphReadsOnLightAndDark()
@@ -83,65 +54,50 @@ void TestResources::GlyphReadsOnLightAndDark()
     QCOMPARE(QImage(":/app16_invert.png").pixel(3, 0), qRgb(255, 255, 255));
 }
 
-void TestResources::Animations_data()
-{
-    QTest::addColumn<QString>("path");
-    QTest::addColumn<bool>("bLightInk");
-    QTest::newRow("classic") << ":/wait_indicator.gif" << false;
-    QTest::newRow("dark") << ":/wait_indicator_dark.gif" << true;
-}
-
 void TestResources::Animations()
 {
-    QFETCH(QString, path);
-    QImageReader reader(path, "GIF");
-    QCOMPARE(reader.loopCount(), -1); // for ever
-    QList<QImage> frames;
-    while (reader.canRead()) {
-        const QImage frame = reader.read();
-        QCOMPARE(reader.nextImageDelay(), 100);
-        QCOMPARE(frame.size(), QSize(32, 32));
-        // See-through outside and in the hub: nothing of an earlier frame is left behind either.
-        QCOMPARE(qAlpha(frame.pixel(0, 0)), 0);
-        QCOMPARE(qAlpha(frame.pixel(16, 16)), 0);
-        QVERIFY(!frames.contains(frame));
-        frames.append(frame);
+    for (const bool bDark : {false, true}) {
+        QImageReader reader(bDark ? ":/wait_indicator_dark.gif" : ":/wait_indicator.gif", "GIF");
+        QCOMPARE(reader.loopCount(), -1); // for ever
+        QList<QImage> frames;
+        while (reader.canRead()) {
+            frames << reader.read();
+            QCOMPARE(reader.nextImageDelay(), 100);
+            QCOMPARE(frames.last().size(), QSize(32, 32));
+            // See-through outside and in the hub: nothing of an earlier frame is left behind either.
+            QCOMPARE(qAlpha(frames.last().pixel(0, 0)), 0);
+            QCOMPARE(qAlpha(frames.last().pixel(16, 16)), 0);
+            QCOMPARE(frames.count(frames.last()), 1);
+        }
+        QCOMPARE(frames.size(), 12);
+        // The strongest spoke goes round clockwise: top at first, right after three steps. Light ink on dark.
+        QCOMPARE(qGray(frames.at(0).pixel(16, 5)) > 128, bDark);
+        QCOMPARE(frames.at(3).pixel(27, 16), frames.at(0).pixel(16, 5));
     }
-    QCOMPARE(frames.size(), 12);
-    // The strongest spoke goes round clockwise: top at first, right after three steps.
-    QTEST(qGray(frames.at(0).pixel(16, 5)) > 128, "bLightInk");
-    QCOMPARE(frames.at(3).pixel(27, 16), frames.at(0).pixel(16, 5));
 }
 
-void TestResources::SheetColour_data()
+void TestResources::SheetColours()
 {
-    QTest::addColumn<QString>("objectName");
-    QTest::addColumn<QColor>("classic");
-    QTest::addColumn<QColor>("dark");
-    for (const char *name : {"labelFree", "labelJustFreed", "labelReturned"}) {
-        QTest::newRow(name) << name << QColor(0, 128, 0) << QColor(0, 255, 0);
-    }
-    QTest::newRow("labelInactive") << "labelInactive" << QColor(0, 0, 255) << QColor(0x66, 0x66, 255);
-    QTest::newRow("labelWired") << "labelWired" << QColor(255, 0, 0) << QColor(255, 0, 0);
-    QTest::newRow("labelActive") << "labelActive" << QColor(0xaa, 0xaa, 0) << QColor(255, 255, 0);
-    const QColor untouched = qApp->palette().color(QPalette::WindowText);
-    QTest::newRow("labelUsed") << "labelUsed" << untouched << QColor(0xee, 0xee, 0xee);
-}
-
-void TestResources::SheetColour()
-{
-    QFETCH(QString, objectName);
-    MainDialog window(objectName);
-    for (const char *style : {"classic", "dark"}) {
-        QFile sheet(style == QLatin1String("dark") ? ":/mac_dark.qss" : ":/mac.qss");
+    const QString colours[][3] = {
+        // object, classic, dark
+        {"labelFree", "#008000", "#00ff00"},     {"labelJustFreed", "#008000", "#00ff00"},
+        {"labelReturned", "#008000", "#00ff00"}, {"labelInactive", "#0000ff", "#6666ff"},
+        {"labelWired", "#ff0000", "#ff0000"},    {"labelActive", "#aaaa00", "#ffff00"},
+        {"labelUsed", "#000000", "#eeeeee"},
+    };
+    for (const int dark : {0, 1}) {
+        QFile sheet(dark ? ":/mac_dark.qss" : ":/mac.qss");
         QVERIFY(sheet.open(QIODevice::ReadOnly));
-        qApp->setStyleSheet(QString());
         qApp->setStyleSheet(QString::fromLatin1(sheet.readAll()));
-        window.label.ensurePolished();
-        QTEST(window.label.palette().color(QPalette::WindowText), style);
-        QCOMPARE(window.label.font().pointSize(), 12);
+        for (const auto &row : colours) {
+            MainDialog window;
+            QLabel label(&window);
+            label.setObjectName(row[0]);
+            label.ensurePolished();
+            QCOMPARE(label.palette().color(QPalette::WindowText).name(), row[1 + dark]);
+            QCOMPARE(label.font().pointSize(), 12);
+        }
     }
-    qApp->setStyleSheet(QString());
 }
 
 QTEST_MAIN(TestResources)

@@ -27,19 +27,15 @@ public:
 
     ~RunningApp()
     {
-        QTest::qWait(
-            100); // a helper that has answered may still be ending, and its process object goes with it
+        QTest::qWait(100);      // a helper that has answered may still be ending
         delete Window<QMenu>(); // the program never does: its only menu lives until the process ends
     }
     Q_DISABLE_COPY_MOVE(RunningApp)
 
-    /// A report with these page counts.
-    static QByteArray Report(int nFree, int nInactive, int nActive, int nWired)
+    static QByteArray Report(int nPagesFree, int nInactive, int nActive, int nWired)
     {
-        return "Pages free: " + QByteArray::number(nFree) +
-               ".\nPages active: " + QByteArray::number(nActive) +
-               ".\nPages inactive: " + QByteArray::number(nInactive) +
-               ".\nPages wired down: " + QByteArray::number(nWired) + ".";
+        const char *format = "Pages free: %d. Pages active: %d. Pages inactive: %d. Pages wired down: %d.";
+        return QString::asprintf(format, nPagesFree, nActive, nInactive, nWired).toLatin1();
     }
     static QByteArray Script(const QByteArray &report)
     {
@@ -53,27 +49,19 @@ public:
         Window<MainDialog>()->UpdateStats();
     }
 
-    template <class T> static T *Window()
+    /// A widget of one of the windows, by its class and where need be its object name.
+    template <class T> static T *Find(const char *name = nullptr)
     {
-        const auto windows = QApplication::topLevelWidgets();
-        for (QWidget *window : windows) {
-            if (auto *found = qobject_cast<T *>(window)) {
+        const auto widgets = QApplication::allWidgets();
+        for (QWidget *widget : widgets) {
+            auto *found = qobject_cast<T *>(widget);
+            if (found && (!name || widget->objectName() == QLatin1String(name))) {
                 return found;
             }
         }
         return nullptr;
     }
-    /// A widget of one of the windows, by object name.
-    template <class T> static T *Find(const char *name)
-    {
-        const auto widgets = QApplication::allWidgets();
-        for (QWidget *widget : widgets) {
-            if (widget->objectName() == QLatin1String(name)) {
-                return qobject_cast<T *>(widget);
-            }
-        }
-        return nullptr;
-    }
+    template <class T> static T *Window() { return Find<T>(); }
 
     /// Forgets everything stored; before the next application is made.
     static void ForgetSettings()

@@ -1,6 +1,5 @@
-// settings_tool FILE [JSON]: prints Kelvo's stored settings as JSON; with JSON, stores its keys first. For
-// the end-to-end tests, which so read and write what the program itself does. A list of two numbers stands
-// for a point.
+// settings_tool FILE [JSON]: prints Kelvo's stored settings as JSON; with JSON, stores its keys first. The
+// end-to-end tests so read and write what the program itself does. A list of two numbers stands for a point.
 
 #include <QJsonArray>
 #include <QJsonDocument>
@@ -12,10 +11,6 @@
 
 int main(int argc, char *argv[])
 {
-    if (argc < 2) {
-        std::fputs("settings_tool: no file named\n", stderr);
-        return 2;
-    }
     QSettings settings(QString::fromLocal8Bit(argv[1]), QSettings::IniFormat);
     const QJsonObject given = QJsonDocument::fromJson(argc > 2 ? argv[2] : "{}").object();
     for (auto entry = given.begin(); entry != given.end(); ++entry) {
@@ -28,11 +23,9 @@ int main(int argc, char *argv[])
     const QStringList keys = settings.allKeys();
     for (const QString &key : keys) {
         const QVariant value = settings.value(key);
-        if (value.userType() == QMetaType::QPoint) {
-            stored[key] = QJsonArray{value.toPoint().x(), value.toPoint().y()};
-        } else {
-            stored[key] = QJsonValue::fromVariant(value);
-        }
+        const QPoint point = value.toPoint();
+        stored[key] = value.userType() == QMetaType::QPoint ? QJsonArray{point.x(), point.y()}
+                                                            : QJsonValue::fromVariant(value);
     }
     std::puts(QJsonDocument(stored).toJson().constData());
     return 0;

@@ -19,7 +19,7 @@ def report(**pages):
 
 
 class DesktopTest(unittest.TestCase):
-    programs = ["watcher"]
+    programs = ["watcher", "openbox"]
     maxDiff = None
 
     def setUp(self):
@@ -34,11 +34,11 @@ class DesktopTest(unittest.TestCase):
         if log.exists():
             self.assertEqual(log.read_text(), "")
 
-    def start(self, *arguments):
+    def start(self, *arguments, **environment):
         """Starts Kelvo: its status icon."""
         watcher = self.desktop.watchers[-1]
         watcher.items.clear()
-        self.kelvo.start(*arguments)
+        self.kelvo.start(*arguments, **environment)
         item = watcher.item()
         self.assertTrue(item, "no status icon")
         return item
@@ -47,3 +47,7 @@ class DesktopTest(unittest.TestCase):
         """what() gives the wanted value, if not at once."""
         wait_for(lambda: what() == wanted)
         self.assertEqual(what(), wanted)
+
+    def close_window(self):
+        self.desktop.run("xdotool", "windowactivate", "--sync", self.kelvo.window(), "key", "alt+F4")
+        self.assertTrue(self.kelvo.window_goes(), "the window stays")

@@ -10,6 +10,7 @@ import shutil
 import signal
 import subprocess
 import tempfile
+from contextlib import AbstractContextManager
 from functools import cached_property
 from pathlib import Path
 
@@ -20,7 +21,7 @@ PR_SET_PDEATHSIG, PR_SET_CHILD_SUBREAPER = 1, 36
 libc = ctypes.CDLL(None)
 
 
-class Desktop:
+class Desktop(AbstractContextManager):
     """A session of its own, with the parts named: "watcher", "openbox" and so on, methods below."""
 
     def __init__(self, size, *programs):
@@ -44,9 +45,6 @@ class Desktop:
         except BaseException:
             self.close()
             raise
-
-    def __enter__(self):
-        return self
 
     def __exit__(self, *_):
         self.close()
@@ -93,7 +91,7 @@ class Desktop:
         self.run("xdotool", "key", "Control_L")
 
     def picom(self):
-        """A compositor; it detaches itself once it works."""
+        """A compositor."""
         self.run("picom", "-b", "--config", "/dev/null", "--backend", "xrender")
 
     def wallpaper(self):
@@ -159,28 +157,27 @@ class Desktop:
         left, right, top, bottom = map(int, extents or [0, 0, 0, 0])
         return x - left, y - top, width + left + right, height + top + bottom
 
+    def on_screen(self, window):
+        x, y, width, height = self.place(window)
+        return x >= 0 and y >= 0 and x + width <= 1024 and y + height <= 768
+
+    def drag(self, x, y):
+        """Drags from a place on the screen by a hundred pixels to the right and down, in small steps."""
+        self.run("xdotool", "mousemove", x, y, "sleep", 0.2, "mousedown", 1)
+        for _ in range(10):
+            self.run("xdotool", "mousemove_relative", 10, 10, "sleep", 0.02)
+        self.run("xdotool", "mouseup", 1)
+
     def close(self):
         """Ends everything that was started here, also what has detached itself, and removes the home."""
         for watcher in self.watchers:
             if not watcher.bus.connection.is_closed():
                 watcher.close()
-        while children := self._children():
-            for child in children:
+        # Adopted children too.
+        while children := subprocess.run(["pgrep", "-P", str(os.getpid())], capture_output=True).stdout.split():
+            for child in map(int, children):
                 os.kill(child, signal.SIGKILL)
                 os.waitpid(child, 0)
         for process in self.spawned:
             process.poll()
         shutil.rmtree(self.home, ignore_errors=True)
-
-    @staticmethod
-    def _children():
-        """Our children, adopted ones included."""
-        children = []
-        for stat in Path("/proc").glob("[0-9]*/stat"):
-            try:
-                parent = stat.read_text(errors="replace").rsplit(")", 1)[1].split()[1]
-            except (FileNotFoundError, ProcessLookupError):
-                continue
-            if int(parent) == os.getpid():
-                children.append(int(stat.parent.name))
-        return children

@@ -42,7 +42,8 @@ class Kelvo:
         data = text if isinstance(text, bytes) else text.encode()
         (self.directory / "report.new").write_bytes(data)
         (self.directory / "report.new").replace(self.directory / "report")
-        self.install("osascript", f"cat >/dev/null; echo >>'{self.directory}/asked'; exec cat '{self.directory}/report'")
+        script = "cat >/dev/null; echo >>'{0}/asked'; exec cat '{0}/report'"
+        self.install("osascript", script.format(self.directory))
 
     def wait_for_sample(self):
         """Returns when Kelvo has certainly taken a sample that began after this call (not with another interpreter)."""
@@ -62,8 +63,8 @@ class Kelvo:
         clock = self.directory / "clock"
         clock.with_suffix(".new").write_text(f"+{seconds}s\n")
         clock.with_suffix(".new").replace(clock)
-        self.environment |= {"LD_PRELOAD": "/usr/$LIB/faketime/libfaketimeMT.so.1", "FAKETIME_NO_CACHE": "1", "FAKETIME_DISABLE_SHM": "1",
-                             "FAKETIME_TIMESTAMP_FILE": str(clock),
+        self.environment |= {"LD_PRELOAD": "/usr/$LIB/faketime/libfaketimeMT.so.1", "FAKETIME_NO_CACHE": "1",
+                             "FAKETIME_DISABLE_SHM": "1", "FAKETIME_TIMESTAMP_FILE": str(clock),
                              "ASAN_OPTIONS": "detect_leaks=0:verify_asan_link_order=0"}
 
     def run(self, *arguments, seconds=20):
@@ -90,20 +91,21 @@ class Kelvo:
         """Stores the settings record and other keys ("MainWindow/Position": [x, y]), as the program would."""
         self._settings(json.dumps({"Application/Settings": record or {}, **others}))
 
-    # The window, by way of what the desktop offers.
-
     def window(self, seconds=20.0, name="^Kelvo$"):
         """The main window's X number, or "" if it is not shown within the time."""
         find = ["xdotool", "search", "--onlyvisible", "--all", "--pid", self.processes[-1].pid, "--name", name]
         return wait_for(lambda: self.desktop.run(*find, check=False).strip(), seconds)
 
     def tray_window(self, seconds=20.0):
-        """The icon's X number in an XEmbed tray, or ""."""
+        """The same of the icon in an XEmbed tray."""
         return self.window(seconds, name="^$")
 
     def window_goes(self):
         """True as soon as the main window is hidden; False if it stays."""
         return wait_for(lambda: not self.window(0))
+
+    def texts(self):
+        return [name for _, name, _ in self.widgets()]
 
     def labels(self):
         """The window's figures: {"Free": "1.00 GB", ..., "Used": ..., "Total": ...}."""
@@ -126,7 +128,6 @@ class Kelvo:
         self.desktop.accessibility.call(*at, "org.a11y.atspi.Action", "DoAction", "(i)", 0)
 
     def having(self, state):
-        """The names of the widgets shown that are in this state."""
         return [name for _, name, at in self.widgets() if self._is(at, state)]
 
     def _is(self, at, state):
