@@ -1,4 +1,4 @@
-// Pictures, animations and style sheets as they are compiled in. Texts under the sheets: TestReadableGround.
+// Pictures, animations and style sheets as they are compiled in. Texts under the sheets: TestController.
 
 #include "tests/support/FailOnWarnings.h"
 
