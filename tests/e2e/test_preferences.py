@@ -1,5 +1,6 @@
 """The preferences panel by keyboard and by mouse, and what each setting does, seen from outside."""
 import shutil
+import time
 import unittest
 
 from case import DesktopTest, wait_for
@@ -113,6 +114,7 @@ class Preferences(DesktopTest):
         for key, period in ("Down", 5), ("Up", 2):
             next_call()  # the next one is some time off
             self.key(key)
+            time.sleep(1)  # what a change asks for itself is over
             self.assertAlmostEqual(-(next_call() - next_call()), period, delta=0.5)
 
     def test_hiding_after_a_run(self):
