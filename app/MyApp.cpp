@@ -26,7 +26,7 @@ MyApp::~MyApp()
     // Unconditional: a copy that only handed its message over stores an empty record here, and the running
     // copy's own end puts the full one back.
     SaveSettings(settings);
-    CallBeforeSuddenExit(nullptr, nullptr);
+    CallBeforeSuddenExit(nullptr, {});
     delete dialogPreferences;
     delete mainDialog;
     delete dialogAbout;
@@ -73,7 +73,7 @@ void MyApp::InitializeWidgets()
     connect(dialogReminder, SIGNAL(rejected()), this, SLOT(OnRemindRejected()));
 
     settings = LoadSettings();
-    CallBeforeSuddenExit(this, "Save");
+    CallBeforeSuddenExit(this, [this] { Save(); });
     SetStyle(settings[QStringLiteral("WindowStyle")].toInt());
     dialogPreferences->SetSettings(settings);
     OnSettingChanged();

@@ -45,13 +45,13 @@ public slots:
     void OnRemindRejected();
     void OnMessageReceived(QString message);
     void ResetReminder();
-    /// Saves what the end of the program would, for an end that comes without a destructor.
-    void Save();
 
 protected:
     bool event(QEvent *event) override;
 
 private:
+    /// Saves what the end of the program would, for an end that comes without a destructor.
+    void Save();
     void InitializeTrayIcon();
     void ShowTrayIcon(QMenu *menu);
     void SetPlainIcon();

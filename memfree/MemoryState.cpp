@@ -84,7 +84,10 @@ bool ReadMemoryState(const std::string &proc, MemoryState &state, std::string &e
         const auto nPages = FindField(report, "workingset_refault_file");
         const auto nPagesOld = FindField(report, "workingset_refault");
         state.nRefaulted = nPages.value_or(nPagesOld.value_or(0)) * nPageBytes;
-        state.nFileReclaimed = FindField(report, "pgsteal_file").value_or(0) * nPageBytes;
+        // Not pgsteal_file, which also counts what a control group at its own limit takes from itself.
+        for (const char *taker : {"pgsteal_kswapd", "pgsteal_direct", "pgsteal_khugepaged"}) {
+            state.nFileReclaimed += FindField(report, taker).value_or(0) * nPageBytes;
+        }
     }
     if (ReadFile(proc + "/pressure/memory", report)) {
         state.usStalled = ParseStalled(report).value_or(0);

@@ -21,7 +21,8 @@ struct MemoryState
     std::uint64_t nSwapUsed = 0;
     /// File pages that were read again soon after they had been evicted, since the start of the machine.
     std::uint64_t nRefaulted = 0;
-    /// File pages that were taken from whoever they belonged to, since the start; 0 before kernel 5.8.
+    /// Pages that were taken from whoever they belonged to because the machine ran short, since the start:
+    /// file pages, as long as nothing is swapped.
     std::uint64_t nFileReclaimed = 0;
     /// How long every task at once waited for memory (PSI "full"), since the start; 0 without PSI.
     std::uint64_t usStalled = 0;

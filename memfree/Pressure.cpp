@@ -62,6 +62,12 @@ void LetKernelCatchUp(const std::string &proc, std::uint64_t nKernelReserve)
     }
 }
 
+/// Memory that ran out is no reason to try the next way.
+Stop AfterFailure(const PressureChild &child)
+{
+    return child.Killed() ? Stop::ShortOfMemory : Stop::Failed;
+}
+
 Stop Check(const std::string &proc, const std::string &cgroup, const PressureRequest &request,
            const PressureProgress &progress, bool bStepDone, std::uint64_t &nFree)
 {
@@ -132,7 +138,7 @@ Stop Press(const std::string &proc, const std::string &cgroup, const PressureReq
         while (stop == Stop::None) {
             const bool bReplied = child.WaitForReply(msLook, reply);
             if (bReplied && !reply.bDone) {
-                return Stop::Failed;
+                return AfterFailure(child);
             }
             if (bReplied) {
                 progress.nPressed += nNow;
@@ -158,5 +164,5 @@ Stop Press(const std::string &proc, const std::string &cgroup, const PressureReq
             LetKernelCatchUp(proc, nKernelReserve);
         }
     }
-    return Stop::Failed;
+    return AfterFailure(child);
 }

@@ -148,7 +148,8 @@ PressureChild::~PressureChild()
 
 bool PressureChild::Press(std::uint64_t nBytes)
 {
-    return write(requests, &nBytes, sizeof nBytes) == sizeof nBytes;
+    bGone = write(requests, &nBytes, sizeof nBytes) != sizeof nBytes;
+    return !bGone;
 }
 
 bool PressureChild::WaitForReply(int ms, PressureReply &reply)
@@ -159,6 +160,15 @@ bool PressureChild::WaitForReply(int ms, PressureReply &reply)
     }
     if (read(replies, &reply, sizeof reply) != sizeof reply) {
         reply = {};
+        bGone = true;
     }
     return true;
+}
+
+bool PressureChild::Killed() const
+{
+    siginfo_t end = {};
+    // Its pipes are closed a moment before it can be waited for.
+    return bGone && waitid(P_PID, static_cast<id_t>(child), &end, WEXITED | WNOWAIT) == 0 &&
+           end.si_code != CLD_EXITED;
 }

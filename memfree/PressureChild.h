@@ -37,9 +37,12 @@ public:
     /// Waits up to ms for the answer; false if there is none yet. Without bDone the child can do no more, or
     /// is gone.
     bool WaitForReply(int ms, PressureReply &reply);
+    /// Whether it has been killed, as by the kernel when memory ran out. To be asked when it answers no more.
+    bool Killed() const;
 
 private:
     pid_t child = -1;
+    bool bGone = false;
     int requests = -1;
     int replies = -1;
 };

@@ -23,7 +23,7 @@ enum class Stop
     Deadline,
     /// Whoever asked for it is gone.
     NobodyWaits,
-    /// A system call said no, or the child is gone.
+    /// A system call said no.
     Failed
 };
 

@@ -14,46 +14,44 @@
 static constexpr int msPatience = 2000;
 
 static QPointer<QObject> lastReceiver;
-static const char *lastSlot = nullptr;
+static std::function<void()> lastCall;
 static pid_t ownProcess = 0;
 
-static void CallLastSlot()
+static void MakeLastCall()
 {
     QObject *const receiver = lastReceiver;
-    if (!receiver) {
+    // A child that could not become its program ends this way too.
+    if (!receiver || getpid() != ownProcess) {
         return;
     }
     if (receiver->thread() == QThread::currentThread()) {
-        QMetaObject::invokeMethod(receiver, lastSlot, Qt::DirectConnection);
+        lastCall();
         return;
     }
     static QSemaphore called;
     QMetaObject::invokeMethod(
         receiver,
-        [receiver] {
-            QMetaObject::invokeMethod(receiver, lastSlot, Qt::DirectConnection);
+        [] {
+            lastCall();
             called.release();
         },
         Qt::QueuedConnection);
     called.tryAcquire(1, msPatience);
 }
 
-/// In the C library's place, for Qt's libraries too. A child that could not become its program also comes
-/// here.
+/// In the C library's place, for Qt's libraries too.
 extern "C" void _exit(int status)
 {
-    if (getpid() == ownProcess) {
-        CallLastSlot();
-    }
+    MakeLastCall();
     for (;;) {
         syscall(SYS_exit_group, status);
     }
 }
 
-void CallBeforeSuddenExit(QObject *receiver, const char *slot)
+void CallBeforeSuddenExit(QObject *receiver, const std::function<void()> &call)
 {
     lastReceiver = receiver;
-    lastSlot = slot;
+    lastCall = call;
     ownProcess = getpid();
-    std::atexit(CallLastSlot);
+    std::atexit(MakeLastCall);
 }

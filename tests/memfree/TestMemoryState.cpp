@@ -81,7 +81,8 @@ private slots:
 
         const auto nPage = static_cast<std::uint64_t>(sysconf(_SC_PAGESIZE));
         tree.Write("meminfo", Meminfo());
-        tree.Write("vmstat", "workingset_refault_anon 5\nworkingset_refault_file 7\npgsteal_file 9\n");
+        tree.Write("vmstat", "workingset_refault_anon 5\nworkingset_refault_file 7\npgsteal_kswapd 4\n"
+                             "pgsteal_direct 5\npgsteal_file 30\n");
         tree.Write("pressure/memory", "some avg10=0 total=1\nfull avg10=0 total=42\n");
         QVERIFY(ReadMemoryState(tree.Path(), state, error));
         QCOMPARE(state.nRefaulted, 7 * nPage);

@@ -34,6 +34,7 @@ class TestPressure : public QObject
 private slots:
     void initTestCase()
     {
+        std::signal(SIGPIPE, SIG_IGN); // as the tool does
         // Somewhere there is one, save on machines that run from memory.
         disk = FindPressureDirectory(
             {QDir::currentPath().toStdString(), QDir::homePath().toStdString(), "/var/tmp", "/tmp"});
@@ -100,6 +101,19 @@ private slots:
             };
             QCOMPARE(PressWith(disk, 4 * nBytesPerGiB, harm), stop);
             QCOMPARE(nSteps, 1);
+        }
+    }
+
+    void StopsWhenMemoryRanOut()
+    {
+        // As the kernel ends the child then.
+        const auto killChild = [](const PressureProgress &) {
+            QFile children(QStringLiteral("/proc/self/task/%1/children").arg(::getpid()));
+            QVERIFY(children.open(QIODevice::ReadOnly));
+            QCOMPARE(::kill(children.readAll().toInt(), SIGKILL), 0);
+        };
+        for (const std::string &directory : {std::string(), disk}) {
+            QCOMPARE(PressWith(directory, nBytesPerGiB, killChild), Stop::ShortOfMemory);
         }
     }
 
