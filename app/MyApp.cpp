@@ -11,6 +11,8 @@
 #include <QEvent>
 #include <QIcon>
 
+#include <utility>
+
 MyApp::MyApp(int &argc, char **argv) : QtSingleApplication(argc, argv, true)
 {
     setQuitOnLastWindowClosed(false);
@@ -26,9 +28,11 @@ MyApp::~MyApp()
     // Unconditional: a copy that only handed its message over stores an empty record here, and the running
     // copy's own end puts the full one back.
     SaveSettings(settings);
-    CallBeforeSuddenExit(nullptr, {});
     delete dialogPreferences;
-    delete mainDialog;
+    // At the end of a session the display often goes just now: until the window has stored its own state,
+    // such an end still waits for this one.
+    delete std::exchange(mainDialog, nullptr);
+    CallBeforeSuddenExit(nullptr, {});
     delete dialogAbout;
     delete dialogReminder;
 }
@@ -36,7 +40,9 @@ MyApp::~MyApp()
 void MyApp::Save()
 {
     SaveSettings(settings);
-    mainDialog->SaveState();
+    if (mainDialog) {
+        mainDialog->SaveState();
+    }
 }
 
 void MyApp::InitializeWidgets()

@@ -44,6 +44,12 @@ int memcmp(const void *left, const void *right, std::size_t n)
     return 0;
 }
 
+/// Clang's choice where only equality matters; in the C library it is one with memcmp.
+int bcmp(const void *left, const void *right, std::size_t n)
+{
+    return memcmp(left, right, n);
+}
+
 void *memchr(const void *in, int value, std::size_t n)
 {
     const auto *bytes = static_cast<const unsigned char *>(in);

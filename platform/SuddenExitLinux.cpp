@@ -16,6 +16,7 @@ static constexpr int msPatience = 2000;
 static QPointer<QObject> lastReceiver;
 static std::function<void()> lastCall;
 static pid_t ownProcess = 0;
+static QSemaphore answered;
 
 static void MakeLastCall()
 {
@@ -28,15 +29,14 @@ static void MakeLastCall()
         lastCall();
         return;
     }
-    static QSemaphore called;
     QMetaObject::invokeMethod(
         receiver,
         [] {
             lastCall();
-            called.release();
+            answered.release();
         },
         Qt::QueuedConnection);
-    called.tryAcquire(1, msPatience);
+    answered.tryAcquire(1, msPatience);
 }
 
 /// In the C library's place, for Qt's libraries too.
@@ -52,6 +52,11 @@ void CallBeforeSuddenExit(QObject *receiver, const std::function<void()> &call)
 {
     lastReceiver = receiver;
     lastCall = call;
+    if (!receiver) {
+        // The thread that the end has come to may be waiting, and be waited for.
+        answered.release();
+        return;
+    }
     ownProcess = getpid();
     std::atexit(MakeLastCall);
 }

@@ -24,7 +24,7 @@ struct PieSlices
     int WiredSpan() const { return TwelveOClock + FullCircle - WiredStart(); }
 
     /// Whether an icon of these slices cannot be told from one of the others by eye: no border is off by a
-    /// thousandth of the circle, which is less than a tenth of a pixel in any panel.
+    /// thousandth of the circle, which is less than a fifth of a pixel at the icon's full size.
     bool LooksLike(const PieSlices &other) const;
 
     bool operator==(const PieSlices &) const = default;
