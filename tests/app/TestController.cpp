@@ -37,9 +37,7 @@ private slots:
     void init();
     void settingsLeaveTheWindowAlone();
     void readableTexts();
-    void swatch();
-    void minimisedWindowComesBack();
-    void systemQuitRequest();
+    void askedFromOutside();
     void noReminderOverAnOpenWindow();
 
 private:
@@ -69,6 +67,8 @@ void TestController::readableTexts()
     const QPalette usual = QApplication::palette();
     {
         RunningApp running;
+        const QImage swatch = MyApp::CreateColorIcon(Qt::blue).pixmap(16).toImage(); // in the menu
+        QCOMPARE(swatch.pixelColor(8, 8), QColor(Qt::blue));
         auto *window = RunningApp::Window<MainDialog>();
         for (const QColor &desktop : {QColor(0xee, 0xee, 0xec), QColor(0x2a, 0x2e, 0x32)}) {
             QApplication::setPalette(QPalette(desktop));
@@ -102,25 +102,14 @@ void TestController::readableTexts()
     QApplication::setPalette(usual);
 }
 
-void TestController::swatch()
-{
-    const RunningApp running;
-    const QImage image = MyApp::CreateColorIcon(Qt::blue).pixmap(16).toImage();
-    QCOMPARE(image.pixelColor(8, 8), QColor(Qt::blue));
-}
-
-void TestController::minimisedWindowComesBack()
+/// By another launch, and by the session.
+void TestController::askedFromOutside()
 {
     RunningApp running;
     auto *window = RunningApp::Window<MainDialog>();
     window->showMinimized();
     emit running.app.messageReceived(QString());
     QVERIFY(window->isVisible() && !window->isMinimized());
-}
-
-void TestController::systemQuitRequest()
-{
-    RunningApp running;
     QCoreApplication::postEvent(&running.app, new QEvent(QEvent::Close));
     QTimer::singleShot(5000, &running.app, [] { QCoreApplication::exit(99); });
     QCOMPARE(QApplication::exec(), 0);
@@ -129,7 +118,7 @@ void TestController::systemQuitRequest()
 /// Whoever has a window open is looking.
 void TestController::noReminderOverAnOpenWindow()
 {
-    RunningApp::Store(QStringLiteral("Application/Settings"), QVariantMap{{QStringLiteral("Remind"), true}});
+    RunningApp::Store("Application/Settings", QVariantMap{{"Remind", true}});
     RunningApp running;
     QWidget *const main = RunningApp::Window<MainDialog>();
     QWidget *const panel = RunningApp::Window<DialogPreferences>();

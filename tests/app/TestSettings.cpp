@@ -15,75 +15,50 @@ class TestSettings : public QObject
     Q_OBJECT
 
 private slots:
-    void initTestCase();
-    void init();
+    void init()
+    {
+        FailOnWarnings();
+        QCoreApplication::setOrganizationName("Orvanta");
+        QFile::remove(QSettings().fileName());
+    }
     void defaults();
-    void recordRoundTrips();
-    void reminderIsDue_data();
     void reminderIsDue();
     void usage();
 };
-
-void TestSettings::initTestCase()
-{
-    QCoreApplication::setOrganizationName(QStringLiteral("Orvanta"));
-    QCoreApplication::setApplicationName(QStringLiteral("Kelvo"));
-}
-
-void TestSettings::init()
-{
-    FailOnWarnings();
-    QFile::remove(QSettings().fileName());
-}
 
 void TestSettings::defaults()
 {
     const QVariantMap record = LoadSettings();
     QCOMPARE(record.size(), 10); // MonoColor has none
-    QCOMPARE(record[QStringLiteral("StayOnTop")], QVariant(true));
-    QCOMPARE(record[QStringLiteral("PieChartIcon")], QVariant(true));
-    QCOMPARE(record[QStringLiteral("WindowStyle")].typeId(), int(QMetaType::Int));
-    QCOMPARE(record[QStringLiteral("RemindThreshold")], QVariant(1.0));
-    QCOMPARE(record[QStringLiteral("RemindThreshold")].typeId(), int(QMetaType::Double));
+    QCOMPARE(record["StayOnTop"], QVariant(true));
+    QCOMPARE(record["PieChartIcon"], QVariant(true));
+    QCOMPARE(record["WindowStyle"].typeId(), int(QMetaType::Int));
+    QCOMPARE(record["RemindThreshold"].typeId(), int(QMetaType::Double));
+    QCOMPARE(record["RemindThreshold"], QVariant(1.0));
 
-    QVariantMap partial{{QStringLiteral("StayOnTop"), QStringLiteral("false")}, {QStringLiteral("New"), 1}};
-    AddDefaultSettings(partial);
-    QCOMPARE(partial[QStringLiteral("StayOnTop")], QVariant(QStringLiteral("false")));
-    QCOMPARE(partial.size(), 11);
-}
-
-void TestSettings::recordRoundTrips()
-{
-    QVariantMap record = LoadSettings();
-    record[QStringLiteral("RemindThreshold")] = 2.75;
-    record[QStringLiteral("WindowStyle")] = 2;
-    record[QStringLiteral("MonoColor")] = true;
+    const QVariantMap partial{{"StayOnTop", "false"}, {"New", 1}, {"RemindThreshold", 2.75}};
     SaveSettings(record);
-    QCOMPARE(LoadSettings(), record); // values and types
-}
-
-void TestSettings::reminderIsDue_data()
-{
-    QTest::addColumn<QVariant>("threshold");
-    QTest::addColumn<qlonglong>("nInactive");
-    QTest::addColumn<bool>("bDue");
-    QTest::newRow("at the threshold") << QVariant(1.0) << 1073741824LL << false;
-    QTest::newRow("a byte above") << QVariant(1.0) << 1073741825LL << true;
-    QTest::newRow("half a gigabyte") << QVariant(0.5) << 536870913LL << true;
-    QTest::newRow("as stored text") << QVariant(QStringLiteral("0.5")) << 536870912LL << false;
-    QTest::newRow("no threshold") << QVariant() << 1LL << true;
-    QTest::newRow("nothing inactive") << QVariant() << 0LL << false;
+    SaveSettings(partial);
+    QCOMPARE(LoadSettings()["StayOnTop"], QVariant("false"));
+    QCOMPARE(LoadSettings()["RemindThreshold"], QVariant(2.75));
+    QCOMPARE(LoadSettings().size(), 11);
 }
 
 void TestSettings::reminderIsDue()
 {
-    QFETCH(QVariant, threshold);
-    QFETCH(qlonglong, nInactive);
-    const QVariantMap stats{{QStringLiteral("Inactive"), nInactive}};
-    QVariantMap record{{QStringLiteral("RemindThreshold"), threshold}};
-    QVERIFY(!IsReminderDue(record, stats)); // not asked for
-    record[QStringLiteral("Remind")] = true;
-    QTEST(IsReminderDue(record, stats), "bDue");
+    const std::tuple<QVariant, qlonglong, bool> cases[] = {
+        {1.0, 1073741824, false},
+        {1.0, 1073741825, true},
+        {0.5, 536870913, true},
+        {"0.5", 536870912, false}, // a stored text
+        {{}, 1, true},
+        {{}, 0, false},
+    };
+    for (const auto &[threshold, nInactive, bDue] : cases) {
+        const QVariantMap stats{{"Inactive", nInactive}};
+        QVERIFY(!IsReminderDue({{"RemindThreshold", threshold}}, stats)); // not asked for
+        QCOMPARE(IsReminderDue({{"RemindThreshold", threshold}, {"Remind", true}}, stats), bDue);
+    }
 }
 
 void TestSettings::usage()

@@ -86,7 +86,8 @@ class Desktop(AbstractContextManager):
 
     def openbox(self):
         self.spawn("openbox")
-        wait_for(lambda: "window id" in self.run("xprop", "-root", "_NET_SUPPORTING_WM_CHECK"))
+        # What it sets last: a window shown before that may stay unmapped for good.
+        wait_for(lambda: "window id" in self.run("xprop", "-root", "_NET_CLIENT_LIST"))
         # The first key of all brings a keyboard with it, for which openbox grabs its keys anew: it would miss alt+F4.
         self.run("xdotool", "key", "Control_L")
 
