@@ -5,11 +5,13 @@
 #include "dialogs/DialogPreferences.h"
 #include "dialogs/DialogReminder.h"
 #include "mainwindow/MainDialog.h"
+#include "platform/StartUpMemory.h"
 #include "platform/SuddenExit.h"
 
 #include <QAction>
 #include <QEvent>
 #include <QIcon>
+#include <QTimer>
 
 #include <utility>
 
@@ -85,6 +87,8 @@ void MyApp::InitializeWidgets()
     OnSettingChanged();
 
     InitializeTrayIcon();
+    // By then the icon is in its tray, and the first timed sample is taken.
+    QTimer::singleShot(3000, this, [] { ReleaseStartUpCode(); });
 }
 
 void MyApp::OnShowMainDialog()
