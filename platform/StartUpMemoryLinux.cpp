@@ -7,21 +7,29 @@
 
 void ReleaseStartUpCode()
 {
-    QFile maps(QStringLiteral("/proc/self/maps"));
+    QFile maps(QStringLiteral("/proc/self/smaps"));
     if (!maps.open(QIODevice::ReadOnly)) {
         return;
     }
     // 7f0000000000-7f0000100000 r-xp 00001000 fe:00 1234   /usr/lib/libexample.so
+    // Size:               1024 kB
+    // ...
+    // Anonymous:             0 kB
     const QList<QByteArray> lines = maps.readAll().split('\n');
+    quintptr begin = 0;
+    quintptr end = 0;
     for (const QByteArray &line : lines) {
-        // Code from a file is never written to, so nothing but a copy goes. That holds for no other kind:
-        // what is read-only by now may have been written to at the start.
-        if (!line.contains(" r-xp ") || !line.contains(" /")) {
-            continue;
+        if (line.contains(" r-xp ") && line.contains(" /")) {
+            const qsizetype nDash = line.indexOf('-');
+            begin = line.left(nDash).toULongLong(nullptr, 16);
+            end = line.mid(nDash + 1, line.indexOf(' ') - nDash - 1).toULongLong(nullptr, 16);
+        } else if (line.startsWith("Anonymous:") && begin != end) {
+            // A page that was written to (relocated, or with a debugger's mark in it) would come back as it
+            // is in the file.
+            if (line.simplified() == "Anonymous: 0 kB") {
+                madvise(reinterpret_cast<void *>(begin), end - begin, MADV_DONTNEED);
+            }
+            begin = end;
         }
-        const qsizetype nDash = line.indexOf('-');
-        const auto begin = line.left(nDash).toULongLong(nullptr, 16);
-        const auto end = line.mid(nDash + 1, line.indexOf(' ') - nDash - 1).toULongLong(nullptr, 16);
-        madvise(reinterpret_cast<void *>(begin), end - begin, MADV_DONTNEED);
     }
 }
