@@ -3,7 +3,6 @@
 #include "compat/KernelCall.h"
 
 #include <algorithm>
-#include <cerrno>
 #include <charconv>
 #include <dirent.h>
 #include <fcntl.h>
@@ -174,27 +173,27 @@ void AddZramDevice(std::string_view report, MemoryFigures &figures)
 void AddZram(int root, MemoryFigures &figures)
 {
     const int directory = Open(root, "sys/block", O_RDONLY | O_DIRECTORY);
+    if (directory < 0) {
+        return;
+    }
     alignas(dirent64) char entries[8192];
-    for (long nBytes = 0;
-         directory >= 0 &&
-         (nBytes = KernelCall(SYS_getdents64, directory, KernelArgument(entries), sizeof entries)) > 0;) {
+    long nBytes = 0;
+    while ((nBytes = KernelCall(SYS_getdents64, directory, KernelArgument(entries), sizeof entries)) > 0) {
         for (long at = 0; at < nBytes;) {
             const auto *const entry = reinterpret_cast<const dirent64 *>(entries + at);
             at += entry->d_reclen;
-            int error = 0;
-            const int device = std::string_view(entry->d_name).starts_with("zram")
-                                   ? Open(directory, entry->d_name, O_PATH)
-                                   : -1;
-            if (device >= 0) {
+            if (!std::string_view(entry->d_name).starts_with("zram")) {
+                continue;
+            }
+            if (const int device = Open(directory, entry->d_name, O_PATH); device >= 0) {
                 Buffer buffer;
+                int error = 0;
                 AddZramDevice(ReadFile(device, "mm_stat", buffer, error), figures);
                 KernelCall(SYS_close, device);
             }
         }
     }
-    if (directory >= 0) {
-        KernelCall(SYS_close, directory);
-    }
+    KernelCall(SYS_close, directory);
 }
 
 void ReadCounters(int root, std::uint64_t kernelPageBytes, MemoryFigures &figures)
