@@ -14,14 +14,6 @@ std::optional<std::uint64_t> ParseByteCount(std::string_view text)
     return static_cast<std::uint64_t>(number);
 }
 
-std::optional<std::uint64_t> ParseNumber(std::string_view text)
-{
-    text.remove_prefix(std::min(text.find_first_not_of(" \t"), text.size()));
-    std::uint64_t number = 0;
-    const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), number);
-    return error == std::errc() ? std::optional(number) : std::nullopt;
-}
-
 std::string FormatByteCount(std::uint64_t nBytes)
 {
     struct Unit

@@ -12,9 +12,5 @@ constexpr std::uint64_t nBytesPerGiB = nBytesPerMiB * 1024;
 /// A byte count as it is given on the command line: decimal digits only, more than zero, within 63 bits.
 std::optional<std::uint64_t> ParseByteCount(std::string_view text);
 
-/// The number at the start of the text, blanks before it skipped; nothing for a sign, no digit or too many
-/// digits.
-std::optional<std::uint64_t> ParseNumber(std::string_view text);
-
 /// For people: "5.93 GiB", "12.0 MiB", "340 KiB". Rounded, three digits at least.
 std::string FormatByteCount(std::uint64_t nBytes);

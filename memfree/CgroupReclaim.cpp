@@ -1,8 +1,9 @@
 #include "memfree/CgroupReclaim.h"
 
-#include "compat/Files.h"
 #include "memfree/ByteCount.h"
+#include "memfree/Files.h"
 #include "memfree/MemoryState.h"
+#include "platform/linux/FindField.h"
 
 #include <algorithm>
 #include <cerrno>

@@ -1,7 +1,8 @@
 #include "memfree/CgroupRoom.h"
 
-#include "compat/Files.h"
 #include "memfree/ByteCount.h"
+#include "memfree/Files.h"
+#include "platform/linux/FindField.h"
 
 #include <algorithm>
 

@@ -1,6 +1,6 @@
 #include "memfree/DropCaches.h"
 
-#include "compat/Files.h"
+#include "memfree/Files.h"
 
 #include <csignal>
 #include <fcntl.h>

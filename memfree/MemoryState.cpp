@@ -1,9 +1,12 @@
 #include "memfree/MemoryState.h"
 
-#include "compat/Files.h"
 #include "memfree/ByteCount.h"
+#include "memfree/Files.h"
+#include "platform/linux/FindField.h"
 
 #include <algorithm>
+#include <cerrno>
+#include <cstring>
 #include <unistd.h>
 
 namespace {
@@ -18,20 +21,6 @@ std::optional<std::uint64_t> FindKiB(std::string_view report, std::string_view n
 }
 
 } // namespace
-
-std::optional<std::uint64_t> FindField(std::string_view report, std::string_view name)
-{
-    while (!report.empty()) {
-        const std::string_view line = report.substr(0, report.find('\n'));
-        // The name ends at a colon or a blank, so that "Active" is not found in "Active(file)".
-        if (line.starts_with(name) && line.size() > name.size() &&
-            (line[name.size()] == ':' || line[name.size()] == ' ')) {
-            return ParseNumber(line.substr(name.size() + 1));
-        }
-        report.remove_prefix(std::min(line.size() + 1, report.size()));
-    }
-    return std::nullopt;
-}
 
 bool ParseMeminfo(std::string_view report, MemoryState &state)
 {
@@ -71,7 +60,7 @@ bool ReadMemoryState(const std::string &proc, MemoryState &state, std::string &e
     std::string report;
     const std::string meminfo = proc + "/meminfo";
     if (!ReadFile(meminfo, report)) {
-        error = "cannot read " + meminfo + ": " + LastError();
+        error = "cannot read " + meminfo + ": " + std::strerror(errno);
         return false;
     }
     if (!ParseMeminfo(report, state)) {

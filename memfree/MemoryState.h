@@ -32,10 +32,6 @@ struct MemoryState
 /// are senseless.
 bool ParseMeminfo(std::string_view report, MemoryState &state);
 
-/// The number behind a name at the start of a line of /proc/meminfo, /proc/vmstat, memory.stat and their
-/// like.
-std::optional<std::uint64_t> FindField(std::string_view report, std::string_view name);
-
 /// The total of the "full" line of /proc/pressure/memory in microseconds.
 std::optional<std::uint64_t> ParseStalled(std::string_view report);
 

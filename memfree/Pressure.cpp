@@ -1,12 +1,13 @@
 #include "memfree/Pressure.h"
 
-#include "compat/Files.h"
 #include "memfree/ByteCount.h"
 #include "memfree/CgroupRoom.h"
+#include "memfree/Files.h"
 #include "memfree/MemoryState.h"
 #include "memfree/PressureChild.h"
 #include "memfree/PressureFile.h"
 #include "memfree/Reader.h"
+#include "platform/linux/FindField.h"
 
 #include <algorithm>
 #include <ctime>

@@ -1,7 +1,7 @@
 #include "memfree/PressureChild.h"
 
-#include "compat/Files.h"
 #include "memfree/ByteCount.h"
+#include "memfree/Files.h"
 
 #include <algorithm>
 #include <cerrno>

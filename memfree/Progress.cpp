@@ -1,6 +1,6 @@
 #include "memfree/Progress.h"
 
-#include "compat/Files.h"
+#include "memfree/Files.h"
 
 #include <algorithm>
 #include <string>

@@ -1,6 +1,6 @@
 // memfree: frees inactive memory, as much as can be had without harm.
-#include "compat/Files.h"
 #include "memfree/ByteCount.h"
+#include "memfree/Files.h"
 #include "memfree/Reclaim.h"
 
 #include <csignal>

@@ -4,7 +4,7 @@
 #include "memfree/CgroupRoom.h"
 #include "memfree/MemoryState.h"
 #include "tests/memfree/Meminfo.h"
-#include "tests/memfree/TemporaryTree.h"
+#include "tests/support/TemporaryTree.h"
 
 #include <QTest>
 

@@ -5,7 +5,7 @@
 #include "memfree/Pressure.h"
 #include "memfree/PressureFile.h"
 #include "tests/memfree/Meminfo.h"
-#include "tests/memfree/TemporaryTree.h"
+#include "tests/support/TemporaryTree.h"
 
 #include <QRandomGenerator>
 #include <QTest>
