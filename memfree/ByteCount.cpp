@@ -14,22 +14,22 @@ std::optional<std::uint64_t> ParseByteCount(std::string_view text)
     return static_cast<std::uint64_t>(number);
 }
 
-std::string FormatByteCount(std::uint64_t nBytes)
+std::string FormatByteCount(std::uint64_t bytes)
 {
     struct Unit
     {
-        std::uint64_t nBytes;
-        int nDecimals;
+        std::uint64_t bytes;
+        int decimals;
         const char *name;
     };
-    constexpr Unit units[] = {{nBytesPerGiB, 2, "GiB"}, {nBytesPerMiB, 1, "MiB"}, {0, 0, "KiB"}};
+    constexpr Unit units[] = {{bytesPerGiB, 2, "GiB"}, {bytesPerMiB, 1, "MiB"}, {0, 0, "KiB"}};
     const Unit *unit = units;
-    while (nBytes < unit->nBytes) {
+    while (bytes < unit->bytes) {
         ++unit;
     }
-    const auto nDivisor = static_cast<double>(unit->nBytes ? unit->nBytes : nBytesPerKiB);
+    const auto divisor = static_cast<double>(unit->bytes ? unit->bytes : bytesPerKiB);
     char text[40];
-    std::snprintf(text, sizeof text, "%.*f %s", unit->nDecimals, static_cast<double>(nBytes) / nDivisor,
+    std::snprintf(text, sizeof text, "%.*f %s", unit->decimals, static_cast<double>(bytes) / divisor,
                   unit->name);
     return text;
 }

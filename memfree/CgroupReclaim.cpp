@@ -17,13 +17,13 @@ namespace {
 constexpr const char *reclaimFile = "/memory.reclaim";
 
 /// One write is one request. @return false if less was reclaimed than was asked for; errno says why
-bool Request(const std::string &group, std::uint64_t nBytes, bool bWithoutSwap)
+bool Request(const std::string &group, std::uint64_t bytes, bool bWithoutSwap)
 {
     const int descriptor = open((group + reclaimFile).c_str(), O_WRONLY | O_CLOEXEC);
     if (descriptor < 0) {
         return false;
     }
-    const std::string request = std::to_string(nBytes) + (bWithoutSwap ? " swappiness=0" : "");
+    const std::string request = std::to_string(bytes) + (bWithoutSwap ? " swappiness=0" : "");
     const bool bDone = write(descriptor, request.data(), request.size()) >= 0;
     const int error = errno;
     close(descriptor);
@@ -67,20 +67,20 @@ bool ReclaimsWithoutSwap(const std::string &group)
 
 Stop ReclaimCgroup(const std::string &group, bool bWithoutSwap, const std::function<Stop()> &check)
 {
-    constexpr std::uint64_t nStep = 64 * nBytesPerMiB;
+    constexpr std::uint64_t step = 64 * bytesPerMiB;
     for (bool bFirst = true;; bFirst = false) {
-        const std::uint64_t nBefore = InactiveInCgroup(group);
-        if (nBefore < nBytesPerMiB) {
+        const std::uint64_t before = InactiveInCgroup(group);
+        if (before < bytesPerMiB) {
             return Stop::NothingLeft;
         }
         // EAGAIN: less than that was to be had, which is known only by looking again.
-        if (!Request(group, std::min(nBefore, nStep), bWithoutSwap) && errno != EAGAIN) {
+        if (!Request(group, std::min(before, step), bWithoutSwap) && errno != EAGAIN) {
             return bFirst ? Stop::Failed : Stop::NothingLeft;
         }
         if (const Stop stop = check(); stop != Stop::None) {
             return stop;
         }
-        if (InactiveInCgroup(group) + nBytesPerMiB > nBefore) {
+        if (InactiveInCgroup(group) + bytesPerMiB > before) {
             return Stop::NothingLeft;
         }
     }

@@ -24,14 +24,14 @@ void Tighten(CgroupRoom &room, const std::string &directory, const LimitFiles &f
         return;
     }
     // "max" in version 2; no limit in version 1 is the largest number of pages.
-    const auto nLimit = ParseNumber(text);
-    if (!nLimit || *nLimit > std::uint64_t(1) << 60 || !ReadFile(directory + files.used, text)) {
+    const auto limit = ParseNumber(text);
+    if (!limit || *limit > std::uint64_t(1) << 60 || !ReadFile(directory + files.used, text)) {
         return;
     }
-    const std::uint64_t nUsed = ParseNumber(text).value_or(0);
-    const std::uint64_t nRoom = *nLimit - std::min(nUsed, *nLimit);
-    if (nRoom < room.nRoom) {
-        room = {nRoom, *nLimit};
+    const std::uint64_t used = ParseNumber(text).value_or(0);
+    const std::uint64_t left = *limit - std::min(used, *limit);
+    if (left < room.room) {
+        room = {left, *limit};
     }
 }
 
@@ -62,19 +62,20 @@ std::string_view FindCgroupPath(std::string_view report, std::string_view contro
         const std::string_view line = report.substr(0, report.find('\n'));
         report.remove_prefix(std::min(line.size() + 1, report.size()));
         // ID:CONTROLLER,CONTROLLER:PATH
-        const std::size_t nFirst = line.find(':');
-        const std::size_t nSecond = nFirst == std::string_view::npos ? nFirst : line.find(':', nFirst + 1);
-        if (nSecond == std::string_view::npos) {
+        const std::size_t firstColon = line.find(':');
+        const std::size_t secondColon =
+            firstColon == std::string_view::npos ? firstColon : line.find(':', firstColon + 1);
+        if (secondColon == std::string_view::npos) {
             continue;
         }
-        std::string_view names = line.substr(nFirst + 1, nSecond - nFirst - 1);
+        std::string_view names = line.substr(firstColon + 1, secondColon - firstColon - 1);
         for (bool bMore = true; bMore;) {
-            const std::size_t nComma = names.find(',');
-            if (names.substr(0, nComma) == controller) {
-                return line.substr(nSecond + 1);
+            const std::size_t comma = names.find(',');
+            if (names.substr(0, comma) == controller) {
+                return line.substr(secondColon + 1);
             }
-            bMore = nComma != std::string_view::npos;
-            names.remove_prefix(bMore ? nComma + 1 : 0);
+            bMore = comma != std::string_view::npos;
+            names.remove_prefix(bMore ? comma + 1 : 0);
         }
     }
     return {};

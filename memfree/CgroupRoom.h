@@ -10,9 +10,9 @@ struct CgroupRoom
 {
     static constexpr std::uint64_t unlimited = std::numeric_limits<std::uint64_t>::max();
 
-    std::uint64_t nRoom = unlimited;
+    std::uint64_t room = unlimited;
     /// The limit that leaves the least room.
-    std::uint64_t nLimit = unlimited;
+    std::uint64_t limit = unlimited;
 };
 
 /// The path of the group in /proc/self/cgroup: of the memory controller's hierarchy (version 1), or the

@@ -19,12 +19,12 @@ enum class Means
 struct Situation
 {
     /// What is asked to be free in the end; pressure never goes beyond it.
-    std::uint64_t nAsked = 0;
+    std::uint64_t asked = 0;
     MemoryState memory;
     CgroupRoom room;
     bool bMayDropCaches = false;
     /// Inactive file cache in the control groups that this user may shrink.
-    std::uint64_t nInCgroups = 0;
+    std::uint64_t inactiveInCgroups = 0;
     /// Whether the kernel takes "swappiness=0" there; without, groups are left alone where there is swap to
     /// write to.
     bool bCgroupsWithoutSwap = false;
@@ -36,7 +36,7 @@ struct Decision
 {
     Means means = Means::Nothing;
     /// How much pressure at most, in bytes.
-    std::uint64_t nBound = 0;
+    std::uint64_t bound = 0;
     /// For people: why, or why not.
     std::string reason;
 };

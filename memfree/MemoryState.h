@@ -8,22 +8,22 @@
 /// What the kernel says of memory at one moment. Bytes unless the name says otherwise.
 struct MemoryState
 {
-    std::uint64_t nTotal = 0;
-    std::uint64_t nFree = 0;
-    /// The kernel's own estimate of what a new program could get; as small as nFree where a kernel has none.
-    std::uint64_t nAvailable = 0;
-    std::uint64_t nActiveFile = 0;
+    std::uint64_t total = 0;
+    std::uint64_t free = 0;
+    /// The kernel's own estimate of what a new program could get; as small as free where a kernel has none.
+    std::uint64_t available = 0;
+    std::uint64_t activeFile = 0;
     /// File cache not used lately: what can be given back.
-    std::uint64_t nInactiveFile = 0;
+    std::uint64_t inactiveFile = 0;
     /// Not written to its file yet, so not to be had before it is.
-    std::uint64_t nDirty = 0;
-    std::uint64_t nSwapFree = 0;
-    std::uint64_t nSwapUsed = 0;
+    std::uint64_t dirty = 0;
+    std::uint64_t swapFree = 0;
+    std::uint64_t swapUsed = 0;
     /// File pages that were read again soon after they had been evicted, since the start of the machine.
-    std::uint64_t nRefaulted = 0;
+    std::uint64_t refaulted = 0;
     /// Pages that were taken from whoever they belonged to because the machine ran short, since the start:
     /// file pages, as long as nothing is swapped.
-    std::uint64_t nFileReclaimed = 0;
+    std::uint64_t fileReclaimed = 0;
     /// How long every task at once waited for memory (PSI "full"), since the start; 0 without PSI.
     std::uint64_t usStalled = 0;
 };

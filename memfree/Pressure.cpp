@@ -15,20 +15,20 @@
 
 namespace {
 
-constexpr std::uint64_t nMinStep = 4 * nBytesPerMiB;
-constexpr std::uint64_t nMaxStep = 64 * nBytesPerMiB;
+constexpr std::uint64_t minStep = 4 * bytesPerMiB;
+constexpr std::uint64_t maxStep = 64 * bytesPerMiB;
 
 /// While a step takes longer than this, the rules are looked at without waiting for its end.
 constexpr int msLook = 50;
 
 /// Steps of about 10 to 50 ms: long enough that looking costs nothing, short enough that a harm is not done
 /// for long.
-std::uint64_t NextStep(std::uint64_t nStep, std::uint64_t msTaken)
+std::uint64_t NextStep(std::uint64_t step, std::uint64_t msTaken)
 {
     if (msTaken < 10) {
-        return std::min(nStep * 2, nMaxStep);
+        return std::min(step * 2, maxStep);
     }
-    return msTaken > 50 ? std::max(nStep / 2, nMinStep) : nStep;
+    return msTaken > 50 ? std::max(step / 2, minStep) : step;
 }
 
 /// What the kernel keeps back for itself. Below it every program that wants memory has to reclaim some first,
@@ -36,28 +36,27 @@ std::uint64_t NextStep(std::uint64_t nStep, std::uint64_t msTaken)
 std::uint64_t KernelReserve(const std::string &proc)
 {
     std::string text;
-    return ReadFile(proc + "/sys/vm/min_free_kbytes", text) ? ParseNumber(text).value_or(0) * nBytesPerKiB
-                                                            : 0;
+    return ReadFile(proc + "/sys/vm/min_free_kbytes", text) ? ParseNumber(text).value_or(0) * bytesPerKiB : 0;
 }
 
 /// Once free memory has run out the kernel's own thread makes room, in the background, at half our speed.
 /// Waits until it has caught up or rests, so that it is it that reclaims, and not any program that happens to
 /// want a page.
-void LetKernelCatchUp(const std::string &proc, std::uint64_t nKernelReserve)
+void LetKernelCatchUp(const std::string &proc, std::uint64_t kernelReserve)
 {
     // The thread goes on until a half more than the reserve is free.
-    const std::uint64_t nEnough = nKernelReserve + nKernelReserve / 2;
-    std::uint64_t nBest = 0;
-    for (int nIdle = 0; nIdle < 6;) {
+    const std::uint64_t enough = kernelReserve + kernelReserve / 2;
+    std::uint64_t best = 0;
+    for (int idleRounds = 0; idleRounds < 6;) {
         std::string meminfo;
-        const std::uint64_t nFree = ReadFile(proc + "/meminfo", meminfo)
-                                        ? FindField(meminfo, "MemFree").value_or(0) * nBytesPerKiB
-                                        : nEnough;
-        if (nFree >= nEnough) {
+        const std::uint64_t free = ReadFile(proc + "/meminfo", meminfo)
+                                       ? FindField(meminfo, "MemFree").value_or(0) * bytesPerKiB
+                                       : enough;
+        if (free >= enough) {
             return;
         }
-        nIdle = nFree > nBest ? 0 : nIdle + 1;
-        nBest = std::max(nBest, nFree);
+        idleRounds = free > best ? 0 : idleRounds + 1;
+        best = std::max(best, free);
         const timespec pause = {0, 500'000};
         nanosleep(&pause, nullptr);
     }
@@ -70,7 +69,7 @@ Stop AfterFailure(const PressureChild &child)
 }
 
 Stop Check(const std::string &proc, const std::string &cgroup, const PressureRequest &request,
-           const PressureProgress &progress, bool bStepDone, std::uint64_t &nFree)
+           const PressureProgress &progress, bool bStepDone, std::uint64_t &free)
 {
     if (IsReaderGone()) {
         return Stop::NobodyWaits;
@@ -80,10 +79,10 @@ Stop Check(const std::string &proc, const std::string &cgroup, const PressureReq
     if (!ReadMemoryState(proc, now, error)) {
         return Stop::Failed;
     }
-    nFree = now.nFree;
+    free = now.free;
     if (!progress.bFileCache) {
         const CgroupRoom room = ReadCgroupRoom(proc, cgroup);
-        if (room.nRoom < MemoryReserve(room.nLimit) / 2) {
+        if (room.room < MemoryReserve(room.limit) / 2) {
             return Stop::ShortOfMemory;
         }
     }
@@ -104,12 +103,12 @@ std::uint64_t msNow()
 Stop Press(const std::string &proc, const std::string &cgroup, const PressureRequest &request)
 {
     // Whole pages, of whatever size.
-    const std::uint64_t nBound = request.nBound / nBytesPerMiB * nBytesPerMiB;
+    const std::uint64_t bound = request.bound / bytesPerMiB * bytesPerMiB;
     // Beyond the bound, which is for what is held at a time: some of it is taken back while we press.
-    PressureSource source = {-1, nBound * 4};
+    PressureSource source = {-1, bound * 4};
     const bool bFile = !request.directory.empty();
     if (bFile) {
-        source.descriptor = OpenPressureFile(request.directory, source.nSize);
+        source.descriptor = OpenPressureFile(request.directory, source.size);
         if (source.descriptor < 0) {
             return Stop::Failed;
         }
@@ -122,32 +121,32 @@ Stop Press(const std::string &proc, const std::string &cgroup, const PressureReq
 
     PressureProgress progress;
     progress.bFileCache = bFile;
-    progress.nBound = nBound;
+    progress.bound = bound;
     OwnPagesTaken taken;
-    const std::uint64_t nKernelReserve = KernelReserve(proc);
-    std::uint64_t nStep = nMinStep;
+    const std::uint64_t kernelReserve = KernelReserve(proc);
+    std::uint64_t step = minStep;
     while (child.Started()) {
-        const std::uint64_t nNow = std::min(
-            {nStep, source.nSize - progress.nPressed, std::max(nBound - progress.nResident, nMinStep)});
+        const std::uint64_t next =
+            std::min({step, source.size - progress.pressed, std::max(bound - progress.resident, minStep)});
         const std::uint64_t msStep = msNow();
         PressureReply reply;
-        if (!child.Press(nNow)) {
+        if (!child.Press(next)) {
             break;
         }
         Stop stop = Stop::None;
-        std::uint64_t nFree = 0;
+        std::uint64_t free = 0;
         while (stop == Stop::None) {
             const bool bReplied = child.WaitForReply(msLook, reply);
             if (bReplied && !reply.bDone) {
                 return AfterFailure(child);
             }
             if (bReplied) {
-                progress.nPressed += nNow;
-                progress.nResident = reply.nResident;
+                progress.pressed += next;
+                progress.resident = reply.resident;
                 request.onProgress(progress);
             }
             progress.msElapsed = msNow() - request.msStarted;
-            stop = Check(proc, cgroup, request, progress, bReplied, nFree);
+            stop = Check(proc, cgroup, request, progress, bReplied, free);
             if (bReplied) {
                 break;
             }
@@ -155,14 +154,14 @@ Stop Press(const std::string &proc, const std::string &cgroup, const PressureReq
         if (stop != Stop::None) {
             return stop;
         }
-        if (taken.Mostly(progress) || progress.nPressed == source.nSize) {
+        if (taken.Mostly(progress) || progress.pressed == source.size) {
             return Stop::TakingOwn;
         }
-        nStep = NextStep(nStep, msNow() - msStep);
-        if (nFree < nKernelReserve * 2 + nStep) {
+        step = NextStep(step, msNow() - msStep);
+        if (free < kernelReserve * 2 + step) {
             // Less than lies between the mark at which the thread wakes and the reserve.
-            nStep = std::min(nStep, std::max(nKernelReserve / 8, nMinStep));
-            LetKernelCatchUp(proc, nKernelReserve);
+            step = std::min(step, std::max(kernelReserve / 8, minStep));
+            LetKernelCatchUp(proc, kernelReserve);
         }
     }
     return AfterFailure(child);

@@ -9,7 +9,7 @@ struct PressureRequest
 {
     /// Where the file goes; empty for anonymous pressure.
     std::string directory;
-    std::uint64_t nBound = 0;
+    std::uint64_t bound = 0;
     /// The situation that harm is measured against, when it was (monotonic, milliseconds), and the situation
     /// now.
     const MemoryState *before = nullptr;

@@ -20,20 +20,20 @@ namespace {
 /// Short calls, since a kernel may not preempt itself before one ends. With a whole step in one, a program
 /// that wakes up every few milliseconds was in five rounds of thirteen delayed more than twice as much as
 /// usual; so in none of six.
-constexpr std::size_t nPiece = 64 * nBytesPerKiB;
+constexpr std::size_t piece = 64 * bytesPerKiB;
 
 /// Kernels before 5.14 do not know the request; others stop at a page that they cannot get.
-bool PopulatePiece(char *start, std::size_t nBytes, bool bFile)
+bool PopulatePiece(char *start, std::size_t bytes, bool bFile)
 {
-    if (madvise(start, nBytes, bFile ? MADV_POPULATE_READ : MADV_POPULATE_WRITE) == 0) {
+    if (madvise(start, bytes, bFile ? MADV_POPULATE_READ : MADV_POPULATE_WRITE) == 0) {
         return true;
     }
     if (errno != EINVAL) {
         return false;
     }
-    const auto nPage = static_cast<std::size_t>(sysconf(_SC_PAGESIZE));
-    for (std::size_t nOffset = 0; nOffset < nBytes; nOffset += nPage) {
-        volatile char *page = start + nOffset;
+    const auto pageBytes = static_cast<std::size_t>(sysconf(_SC_PAGESIZE));
+    for (std::size_t offset = 0; offset < bytes; offset += pageBytes) {
+        volatile char *page = start + offset;
         if (bFile) {
             static_cast<void>(*page);
         } else {
@@ -43,10 +43,10 @@ bool PopulatePiece(char *start, std::size_t nBytes, bool bFile)
     return true;
 }
 
-bool Populate(char *start, std::size_t nBytes, bool bFile)
+bool Populate(char *start, std::size_t bytes, bool bFile)
 {
-    for (std::size_t nDone = 0; nDone < nBytes; nDone += nPiece) {
-        if (!PopulatePiece(start + nDone, std::min(nPiece, nBytes - nDone), bFile)) {
+    for (std::size_t done = 0; done < bytes; done += piece) {
+        if (!PopulatePiece(start + done, std::min(piece, bytes - done), bFile)) {
             return false;
         }
     }
@@ -57,14 +57,14 @@ bool Populate(char *start, std::size_t nBytes, bool bFile)
 std::uint64_t ResidentBytes(bool bFile)
 {
     std::string statm;
-    unsigned long long nTotal = 0;
-    unsigned long long nAll = 0;
-    unsigned long long nFile = 0;
+    unsigned long long total = 0;
+    unsigned long long all = 0;
+    unsigned long long file = 0;
     if (!ReadFile("/proc/self/statm", statm) ||
-        sscanf(statm.c_str(), "%llu %llu %llu", &nTotal, &nAll, &nFile) != 3) {
+        sscanf(statm.c_str(), "%llu %llu %llu", &total, &all, &file) != 3) {
         return 0;
     }
-    return (bFile ? nFile : nAll - std::min(nAll, nFile)) * static_cast<std::uint64_t>(sysconf(_SC_PAGESIZE));
+    return (bFile ? file : all - std::min(all, file)) * static_cast<std::uint64_t>(sysconf(_SC_PAGESIZE));
 }
 
 [[noreturn]] void Run(const PressureSource &source, pid_t parent, int requests, int replies)
@@ -81,24 +81,24 @@ std::uint64_t ResidentBytes(bool bFile)
 
     const bool bFile = source.descriptor >= 0;
     void *memory =
-        mmap(nullptr, source.nSize, bFile ? PROT_READ : PROT_READ | PROT_WRITE,
+        mmap(nullptr, source.size, bFile ? PROT_READ : PROT_READ | PROT_WRITE,
              bFile ? MAP_SHARED : MAP_PRIVATE | MAP_ANONYMOUS | MAP_NORESERVE, source.descriptor, 0);
     if (memory == MAP_FAILED) {
         _exit(1);
     }
     // Sequential: the kernel does not count these pages as used when it finds them mapped. When everything
     // older is gone it takes them, and not the pages that other programs use.
-    madvise(memory, source.nSize, bFile ? MADV_SEQUENTIAL : MADV_HUGEPAGE);
-    const std::uint64_t nOwn = ResidentBytes(bFile);
+    madvise(memory, source.size, bFile ? MADV_SEQUENTIAL : MADV_HUGEPAGE);
+    const std::uint64_t own = ResidentBytes(bFile);
 
-    std::uint64_t nPressed = 0;
-    std::uint64_t nBytes = 0;
-    while (read(requests, &nBytes, sizeof nBytes) == sizeof nBytes) {
+    std::uint64_t pressed = 0;
+    std::uint64_t bytes = 0;
+    while (read(requests, &bytes, sizeof bytes) == sizeof bytes) {
         PressureReply reply;
-        nBytes = std::min(nBytes, source.nSize - nPressed);
-        reply.bDone = Populate(static_cast<char *>(memory) + nPressed, nBytes, bFile);
-        nPressed += nBytes;
-        reply.nResident = ResidentBytes(bFile) - nOwn;
+        bytes = std::min(bytes, source.size - pressed);
+        reply.bDone = Populate(static_cast<char *>(memory) + pressed, bytes, bFile);
+        pressed += bytes;
+        reply.resident = ResidentBytes(bFile) - own;
         if (write(replies, &reply, sizeof reply) != sizeof reply) {
             break;
         }
@@ -146,9 +146,9 @@ PressureChild::~PressureChild()
     }
 }
 
-bool PressureChild::Press(std::uint64_t nBytes)
+bool PressureChild::Press(std::uint64_t bytes)
 {
-    bGone = write(requests, &nBytes, sizeof nBytes) != sizeof nBytes;
+    bGone = write(requests, &bytes, sizeof bytes) != sizeof bytes;
     return !bGone;
 }
 

@@ -7,14 +7,14 @@
 struct PressureSource
 {
     int descriptor = -1;
-    std::uint64_t nSize = 0;
+    std::uint64_t size = 0;
 };
 
 /// The answer to one step.
 struct PressureReply
 {
     /// Bytes pressed with so far that are still in memory.
-    std::uint64_t nResident = 0;
+    std::uint64_t resident = 0;
     bool bDone = false;
 };
 
@@ -33,7 +33,7 @@ public:
 
     bool Started() const { return child > 0; }
     /// Tells it to press that much further; false if it is gone.
-    bool Press(std::uint64_t nBytes);
+    bool Press(std::uint64_t bytes);
     /// Waits up to ms for the answer; false if there is none yet. Without bDone the child can do no more, or
     /// is gone.
     bool WaitForReply(int ms, PressureReply &reply);

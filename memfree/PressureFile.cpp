@@ -29,13 +29,13 @@ bool IsDiskFileSystem(int descriptor)
 /// hole takes a block for it.
 bool KeepsHoles(int descriptor)
 {
-    const auto nPage = static_cast<std::size_t>(sysconf(_SC_PAGESIZE));
-    void *page = mmap(nullptr, nPage, PROT_READ, MAP_SHARED, descriptor, 0);
+    const auto pageBytes = static_cast<std::size_t>(sysconf(_SC_PAGESIZE));
+    void *page = mmap(nullptr, pageBytes, PROT_READ, MAP_SHARED, descriptor, 0);
     if (page == MAP_FAILED) {
         return false;
     }
     static_cast<void>(*static_cast<const volatile char *>(page));
-    munmap(page, nPage);
+    munmap(page, pageBytes);
     struct stat status = {};
     return fstat(descriptor, &status) == 0 && status.st_blocks == 0;
 }
@@ -85,7 +85,7 @@ std::string FindPressureDirectory(const std::vector<std::string> &directories)
     return {};
 }
 
-int OpenPressureFile(const std::string &directory, std::uint64_t nSize)
+int OpenPressureFile(const std::string &directory, std::uint64_t size)
 {
     // Asked before anything is made there: a directory on the network is not to be touched.
     const int place = open(directory.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
@@ -94,11 +94,11 @@ int OpenPressureFile(const std::string &directory, std::uint64_t nSize)
         close(place);
     }
     const int descriptor = bDisk ? OpenUnlinked(directory) : -1;
-    const auto nPage = static_cast<std::uint64_t>(sysconf(_SC_PAGESIZE));
+    const auto pageBytes = static_cast<std::uint64_t>(sysconf(_SC_PAGESIZE));
     if (descriptor < 0) {
         return -1;
     }
-    if (ftruncate(descriptor, static_cast<off_t>(std::max(nSize, nPage))) == 0 && KeepsHoles(descriptor)) {
+    if (ftruncate(descriptor, static_cast<off_t>(std::max(size, pageBytes))) == 0 && KeepsHoles(descriptor)) {
         return descriptor;
     }
     close(descriptor);

@@ -16,4 +16,4 @@ std::string FindPressureDirectory(const std::vector<std::string> &directories);
 /// system: on one in memory they would be memory that nobody can take back, on the network or in user space
 /// somebody else's work.
 /// @return its descriptor, or -1
-int OpenPressureFile(const std::string &directory, std::uint64_t nSize);
+int OpenPressureFile(const std::string &directory, std::uint64_t size);

@@ -10,19 +10,19 @@ Progress::Progress() : bTerminal(isatty(STDERR_FILENO) == 1) {}
 
 Progress::~Progress()
 {
-    if (nLastPercent >= 0) {
+    if (lastPercent >= 0) {
         WriteAll(STDERR_FILENO, "\r\033[K");
     }
 }
 
-void Progress::Show(std::uint64_t nDone, std::uint64_t nAll)
+void Progress::Show(std::uint64_t done, std::uint64_t all)
 {
-    const int nPercent = nAll ? static_cast<int>(std::min(nDone, nAll) * 100 / nAll) : 100;
-    if (!bTerminal || nPercent == nLastPercent) {
+    const int percent = all ? static_cast<int>(std::min(done, all) * 100 / all) : 100;
+    if (!bTerminal || percent == lastPercent) {
         return;
     }
-    nLastPercent = nPercent;
-    const auto nFilled = static_cast<std::size_t>(nPercent) * 4 / 10;
-    WriteAll(STDERR_FILENO, "\r[" + std::string(nFilled, '#') + std::string(40 - nFilled, '.') + "] " +
-                                std::to_string(nPercent) + " %");
+    lastPercent = percent;
+    const auto filled = static_cast<std::size_t>(percent) * 4 / 10;
+    WriteAll(STDERR_FILENO, "\r[" + std::string(filled, '#') + std::string(40 - filled, '.') + "] " +
+                                std::to_string(percent) + " %");
 }

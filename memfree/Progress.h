@@ -11,9 +11,9 @@ public:
     Progress(const Progress &) = delete;
     Progress &operator=(const Progress &) = delete;
 
-    void Show(std::uint64_t nDone, std::uint64_t nAll);
+    void Show(std::uint64_t done, std::uint64_t all);
 
 private:
     bool bTerminal = false;
-    int nLastPercent = -1;
+    int lastPercent = -1;
 };

@@ -12,9 +12,9 @@ struct Outcome
     std::string text;
 };
 
-/// Frees inactive memory by the means that this system and this user have, so that up to nBytes are free in
+/// Frees inactive memory by the means that this system and this user have, so that up to bytes are free in
 /// the end.
-Outcome FreeMemory(std::uint64_t nBytes);
+Outcome FreeMemory(std::uint64_t bytes);
 
 /// What FreeMemory() would do now and why, one line or more; touches nothing.
-Outcome PlanMemory(std::uint64_t nBytes);
+Outcome PlanMemory(std::uint64_t bytes);

@@ -26,10 +26,10 @@ struct Place
     std::vector<std::string> groups;
 };
 
-bool Look(std::uint64_t nBytes, Place &place, std::string &error)
+bool Look(std::uint64_t bytes, Place &place, std::string &error)
 {
     Situation &situation = place.situation;
-    situation.nAsked = nBytes;
+    situation.asked = bytes;
     if (!ReadMemoryState(proc, situation.memory, error)) {
         return false;
     }
@@ -37,17 +37,17 @@ bool Look(std::uint64_t nBytes, Place &place, std::string &error)
     situation.bMayDropCaches = MayDropCaches(proc);
     place.groups = FindReclaimableCgroups(cgroup, getuid());
     for (const std::string &group : place.groups) {
-        situation.nInCgroups += InactiveInCgroup(group);
+        situation.inactiveInCgroups += InactiveInCgroup(group);
     }
     situation.bCgroupsWithoutSwap =
-        !place.groups.empty() && situation.memory.nSwapFree > 0 && ReclaimsWithoutSwap(place.groups.front());
+        !place.groups.empty() && situation.memory.swapFree > 0 && ReclaimsWithoutSwap(place.groups.front());
     situation.pressureDirectory = FindPressureDirectory(PressureDirectories());
     return true;
 }
 
 bool NeedsSync(const MemoryState &memory)
 {
-    return memory.nDirty >= WorthFreeing(memory.nTotal);
+    return memory.dirty >= WorthFreeing(memory.total);
 }
 
 /// Whether the next way is to be tried: not to add to a harm, and not where there is no more to be had.
@@ -60,8 +60,7 @@ bool LeavesMore(Stop stop, Means means)
 class Run
 {
 public:
-    Run(std::uint64_t nBytes, const Place &first)
-        : nAsked(nBytes), before(first.situation.memory), place(first)
+    Run(std::uint64_t bytes, const Place &first) : asked(bytes), before(first.situation.memory), place(first)
     {
     }
 
@@ -83,7 +82,7 @@ public:
             std::string &names = stop == Stop::Failed ? refused : used;
             names += (names.empty() ? "" : " and ") + std::string(Name(decision.means));
             Place now;
-            if (!Look(nAsked, now, error)) {
+            if (!Look(asked, now, error)) {
                 return {true, error};
             }
             place = now;
@@ -146,62 +145,62 @@ private:
         if (decision.means == Means::PageCachePressure) {
             request.directory = place.situation.pressureDirectory;
         }
-        request.nBound = decision.nBound;
+        request.bound = decision.bound;
         request.before = &before;
         request.first = &place.situation.memory;
         request.msStarted = msStarted;
-        request.onProgress = [&bar](const PressureProgress &now) { bar.Show(now.nResident, now.nBound); };
+        request.onProgress = [&bar](const PressureProgress &now) { bar.Show(now.resident, now.bound); };
         return Press(proc, cgroup, request);
     }
 
     Outcome Report(const std::string &used, Stop stop) const
     {
-        const std::uint64_t nFree = place.situation.memory.nFree;
-        const std::uint64_t nFreed = nFree - std::min(before.nFree, nFree);
+        const std::uint64_t free = place.situation.memory.free;
+        const std::uint64_t freed = free - std::min(before.free, free);
         char seconds[40];
         std::snprintf(seconds, sizeof seconds, "%.2f s", static_cast<double>(msNow() - msStarted) / 1000);
         const char *why = Describe(stop);
-        return {false, "freed " + FormatByteCount(nFreed) + " by " + used + " in " + seconds +
+        return {false, "freed " + FormatByteCount(freed) + " by " + used + " in " + seconds +
                            (why ? std::string(" (stopped: ") + why + ")" : std::string())};
     }
 
     const std::uint64_t msStarted = msNow();
-    const std::uint64_t nAsked;
+    const std::uint64_t asked;
     const MemoryState before;
     Place place;
 };
 
 } // namespace
 
-Outcome FreeMemory(std::uint64_t nBytes)
+Outcome FreeMemory(std::uint64_t bytes)
 {
     Place place;
     std::string error;
-    return Look(nBytes, place, error) ? Run(nBytes, place).Finish() : Outcome{true, error};
+    return Look(bytes, place, error) ? Run(bytes, place).Finish() : Outcome{true, error};
 }
 
-Outcome PlanMemory(std::uint64_t nBytes)
+Outcome PlanMemory(std::uint64_t bytes)
 {
     Place place;
     std::string error;
-    if (!Look(nBytes, place, error)) {
+    if (!Look(bytes, place, error)) {
         return {true, error};
     }
     const MemoryState &memory = place.situation.memory;
     const Decision decision = Decide(place.situation, Means::Nothing);
-    std::string text = FormatByteCount(memory.nInactiveFile) + " inactive, " + FormatByteCount(memory.nFree) +
-                       " free, " + FormatByteCount(memory.nAvailable) + " available of " +
-                       FormatByteCount(memory.nTotal) + "\n";
+    std::string text = FormatByteCount(memory.inactiveFile) + " inactive, " + FormatByteCount(memory.free) +
+                       " free, " + FormatByteCount(memory.available) + " available of " +
+                       FormatByteCount(memory.total) + "\n";
     if (decision.means == Means::Nothing) {
         return {false, text + "would do nothing: " + decision.reason};
     }
     if (NeedsSync(memory)) {
-        text += "would have " + FormatByteCount(memory.nDirty) + " of dirty pages written first\n";
+        text += "would have " + FormatByteCount(memory.dirty) + " of dirty pages written first\n";
     }
     text += std::string("would try ") + Name(decision.means) + ": " + decision.reason;
-    if (decision.nBound > 0) {
-        text += "\nwould press with " + FormatByteCount(decision.nBound) + " at most, and keep " +
-                FormatByteCount(MemoryReserve(memory.nTotal)) + " available";
+    if (decision.bound > 0) {
+        text += "\nwould press with " + FormatByteCount(decision.bound) + " at most, and keep " +
+                FormatByteCount(MemoryReserve(memory.total)) + " available";
     }
     return {false, text};
 }

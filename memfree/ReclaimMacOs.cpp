@@ -20,32 +20,32 @@
 
 namespace {
 
-constexpr std::uint64_t nStep = 16 * nBytesPerMiB;
+constexpr std::uint64_t step = 16 * bytesPerMiB;
 /// Of kern.memorystatus_vm_pressure_level: 1 normal, 2 warning, 4 critical.
 constexpr int pressureNormal = 1;
 
 template <typename Value> bool ReadSysctl(const char *name, Value &value)
 {
-    std::size_t nSize = sizeof value;
-    return sysctlbyname(name, &value, &nSize, nullptr, 0) == 0;
+    std::size_t size = sizeof value;
+    return sysctlbyname(name, &value, &size, nullptr, 0) == 0;
 }
 
 bool Look(MemoryState &state, std::string &error)
 {
     vm_statistics64_data_t counts = {};
-    mach_msg_type_number_t nCount = HOST_VM_INFO64_COUNT;
+    mach_msg_type_number_t count = HOST_VM_INFO64_COUNT;
     xsw_usage swap = {};
-    if (!ReadSysctl("hw.memsize", state.nTotal) ||
+    if (!ReadSysctl("hw.memsize", state.total) ||
         host_statistics64(mach_host_self(), HOST_VM_INFO64, reinterpret_cast<host_info64_t>(&counts),
-                          &nCount) != KERN_SUCCESS) {
+                          &count) != KERN_SUCCESS) {
         error = "cannot tell how memory is used";
         return false;
     }
-    const auto nPage = static_cast<std::uint64_t>(sysconf(_SC_PAGESIZE));
-    state.nFree = counts.free_count * nPage;
-    state.nInactiveFile = counts.inactive_count * nPage;
-    state.nAvailable = state.nFree + state.nInactiveFile;
-    state.nSwapUsed = ReadSysctl("vm.swapusage", swap) ? swap.xsu_used : 0;
+    const auto pageBytes = static_cast<std::uint64_t>(sysconf(_SC_PAGESIZE));
+    state.free = counts.free_count * pageBytes;
+    state.inactiveFile = counts.inactive_count * pageBytes;
+    state.available = state.free + state.inactiveFile;
+    state.swapUsed = ReadSysctl("vm.swapusage", swap) ? swap.xsu_used : 0;
     return true;
 }
 
@@ -56,44 +56,44 @@ std::uint64_t msNow()
 
 bool IsPressureNormal()
 {
-    int nLevel = pressureNormal;
-    return !ReadSysctl("kern.memorystatus_vm_pressure_level", nLevel) || nLevel == pressureNormal;
+    int level = pressureNormal;
+    return !ReadSysctl("kern.memorystatus_vm_pressure_level", level) || level == pressureNormal;
 }
 
-std::string Refusal(std::uint64_t nAsked, const MemoryState &state)
+std::string Refusal(std::uint64_t asked, const MemoryState &state)
 {
-    if (nAsked <= state.nFree) {
-        return FormatByteCount(state.nFree) + " are free already";
+    if (asked <= state.free) {
+        return FormatByteCount(state.free) + " are free already";
     }
-    if (state.nInactiveFile < WorthFreeing(state.nTotal)) {
-        return "only " + FormatByteCount(state.nInactiveFile) + " are inactive";
+    if (state.inactiveFile < WorthFreeing(state.total)) {
+        return "only " + FormatByteCount(state.inactiveFile) + " are inactive";
     }
     return IsPressureNormal() ? std::string() : "memory is short";
 }
 
 /// All of the pressure is given back when this returns.
-Stop Press(const MemoryState &before, std::uint64_t nBound, std::uint64_t msStarted)
+Stop Press(const MemoryState &before, std::uint64_t bound, std::uint64_t msStarted)
 {
     void *memory =
-        mmap(nullptr, nBound, PROT_READ | PROT_WRITE, MAP_PRIVATE | MAP_ANON | MAP_NORESERVE, -1, 0);
+        mmap(nullptr, bound, PROT_READ | PROT_WRITE, MAP_PRIVATE | MAP_ANON | MAP_NORESERVE, -1, 0);
     if (memory == MAP_FAILED) {
         return Stop::Failed;
     }
     Progress bar;
     PressureProgress progress;
-    progress.nBound = nBound;
+    progress.bound = bound;
     Stop stop = Stop::None;
     while (stop == Stop::None) {
-        const std::uint64_t nEnd = std::min(progress.nPressed + nStep, nBound);
-        for (; progress.nPressed < nEnd;
-             progress.nPressed += static_cast<std::uint64_t>(sysconf(_SC_PAGESIZE))) {
+        const std::uint64_t end = std::min(progress.pressed + step, bound);
+        for (; progress.pressed < end;
+             progress.pressed += static_cast<std::uint64_t>(sysconf(_SC_PAGESIZE))) {
             // Not all alike, or the compressor makes nothing of them.
-            static_cast<volatile std::uint64_t *>(memory)[progress.nPressed / sizeof(std::uint64_t)] =
-                progress.nPressed + 1;
+            static_cast<volatile std::uint64_t *>(memory)[progress.pressed / sizeof(std::uint64_t)] =
+                progress.pressed + 1;
         }
-        progress.nResident = progress.nPressed;
+        progress.resident = progress.pressed;
         progress.msElapsed = msNow() - msStarted;
-        bar.Show(progress.nPressed, nBound);
+        bar.Show(progress.pressed, bound);
         MemoryState now;
         std::string error;
         if (!Look(now, error)) {
@@ -104,13 +104,13 @@ Stop Press(const MemoryState &before, std::uint64_t nBound, std::uint64_t msStar
             stop = IsPressureNormal() ? CheckPressure(before, before, now, progress) : Stop::ShortOfMemory;
         }
     }
-    munmap(memory, nBound);
+    munmap(memory, bound);
     return stop;
 }
 
 } // namespace
 
-Outcome FreeMemory(std::uint64_t nBytes)
+Outcome FreeMemory(std::uint64_t bytes)
 {
     const std::uint64_t msStarted = msNow();
     MemoryState before;
@@ -118,31 +118,31 @@ Outcome FreeMemory(std::uint64_t nBytes)
     if (!Look(before, error)) {
         return {true, error};
     }
-    if (const std::string refusal = Refusal(nBytes, before); !refusal.empty()) {
+    if (const std::string refusal = Refusal(bytes, before); !refusal.empty()) {
         return {false, "nothing to do: " + refusal};
     }
-    const Stop stop = Press(before, std::min(nBytes, before.nFree + before.nInactiveFile), msStarted);
+    const Stop stop = Press(before, std::min(bytes, before.free + before.inactiveFile), msStarted);
     MemoryState after;
     if (stop == Stop::Failed || !Look(after, error)) {
         return {true, std::string("could not free memory: ") + Describe(Stop::Failed)};
     }
-    const std::uint64_t nFreed = after.nFree - std::min(before.nFree, after.nFree);
-    return {false, "freed " + FormatByteCount(nFreed) + " by anonymous pressure in " +
+    const std::uint64_t freed = after.free - std::min(before.free, after.free);
+    return {false, "freed " + FormatByteCount(freed) + " by anonymous pressure in " +
                        std::to_string((msNow() - msStarted) / 1000) + " s" +
                        (Describe(stop) ? std::string(" (stopped: ") + Describe(stop) + ")" : std::string())};
 }
 
-Outcome PlanMemory(std::uint64_t nBytes)
+Outcome PlanMemory(std::uint64_t bytes)
 {
     MemoryState state;
     std::string error;
     if (!Look(state, error)) {
         return {true, error};
     }
-    const std::string figures = FormatByteCount(state.nInactiveFile) + " inactive, " +
-                                FormatByteCount(state.nFree) + " free of " + FormatByteCount(state.nTotal) +
+    const std::string figures = FormatByteCount(state.inactiveFile) + " inactive, " +
+                                FormatByteCount(state.free) + " free of " + FormatByteCount(state.total) +
                                 "\n";
-    const std::string refusal = Refusal(nBytes, state);
+    const std::string refusal = Refusal(bytes, state);
     return {false, figures + (refusal.empty() ? std::string("would try anonymous pressure")
                                               : "would do nothing: " + refusal)};
 }

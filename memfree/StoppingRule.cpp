@@ -14,14 +14,14 @@ std::uint64_t Growth(std::uint64_t before, std::uint64_t now)
 
 } // namespace
 
-std::uint64_t MemoryReserve(std::uint64_t nTotal)
+std::uint64_t MemoryReserve(std::uint64_t total)
 {
-    return std::max(nTotal / 20, 256 * nBytesPerMiB);
+    return std::max(total / 20, 256 * bytesPerMiB);
 }
 
-std::uint64_t WorthFreeing(std::uint64_t nTotal)
+std::uint64_t WorthFreeing(std::uint64_t total)
 {
-    return std::max(nTotal / 256, 16 * nBytesPerMiB);
+    return std::max(total / 256, 16 * bytesPerMiB);
 }
 
 Stop CheckHarm(const MemoryState &before, const MemoryState &now, std::uint64_t msElapsed)
@@ -29,17 +29,17 @@ Stop CheckHarm(const MemoryState &before, const MemoryState &now, std::uint64_t 
     if (msElapsed >= msDeadline) {
         return Stop::Deadline;
     }
-    if (now.nAvailable < MemoryReserve(now.nTotal)) {
+    if (now.available < MemoryReserve(now.total)) {
         return Stop::ShortOfMemory;
     }
     // Others swap too, but a run that coincides with it had better end.
-    if (Growth(before.nSwapUsed, now.nSwapUsed) > nBytesPerMiB) {
+    if (Growth(before.swapUsed, now.swapUsed) > bytesPerMiB) {
         return Stop::Swapping;
     }
     // Below 1 % of what is in use, so that a bystander that reads its file all the time notices nothing; some
     // of it is always read again on a machine at work.
-    const std::uint64_t nRefaultsAllowed = std::max(before.nActiveFile / 100, now.nTotal / 2048);
-    if (Growth(before.nRefaulted, now.nRefaulted) > nRefaultsAllowed) {
+    const std::uint64_t refaultsAllowed = std::max(before.activeFile / 100, now.total / 2048);
+    if (Growth(before.refaulted, now.refaulted) > refaultsAllowed) {
         return Stop::EvictingInUse;
     }
     // On a machine that is otherwise idle our own wait for the kernel counts as everybody's: up to 28 % of
@@ -53,23 +53,23 @@ Stop CheckHarm(const MemoryState &before, const MemoryState &now, std::uint64_t 
 
 bool OwnPagesTaken::Mostly(const PressureProgress &progress)
 {
-    const std::uint64_t nWindow = std::max(progress.nBound / 32, 64 * nBytesPerMiB);
-    const std::uint64_t nPressed = progress.nPressed - nPressedBefore;
-    if (nPressed < nWindow) {
+    const std::uint64_t window = std::max(progress.bound / 32, 64 * bytesPerMiB);
+    const std::uint64_t pressed = progress.pressed - pressedBefore;
+    if (pressed < window) {
         return false;
     }
-    const std::uint64_t nTaken = Growth(progress.nResident, progress.nPressed);
-    const bool bMostly = Growth(nTakenBefore, nTaken) > nPressed / 2;
-    nPressedBefore = progress.nPressed;
-    nTakenBefore = nTaken;
+    const std::uint64_t taken = Growth(progress.resident, progress.pressed);
+    const bool bMostly = Growth(takenBefore, taken) > pressed / 2;
+    pressedBefore = progress.pressed;
+    takenBefore = taken;
     return bMostly;
 }
 
 std::uint64_t InactiveLeft(const MemoryState &before, const MemoryState &now,
                            const PressureProgress &progress)
 {
-    const std::uint64_t nOwn = progress.bFileCache ? progress.nResident : 0;
-    return Growth(nOwn + before.nActiveFile, now.nActiveFile + now.nInactiveFile);
+    const std::uint64_t own = progress.bFileCache ? progress.resident : 0;
+    return Growth(own + before.activeFile, now.activeFile + now.inactiveFile);
 }
 
 Stop CheckPressure(const MemoryState &before, const MemoryState &first, const MemoryState &now,
@@ -78,12 +78,12 @@ Stop CheckPressure(const MemoryState &before, const MemoryState &first, const Me
     if (const Stop harm = CheckHarm(before, now, progress.msElapsed); harm != Stop::None) {
         return harm;
     }
-    const std::uint64_t nOwnTaken = progress.bFileCache ? Growth(progress.nResident, progress.nPressed) : 0;
-    const std::uint64_t nTaken = Growth(nOwnTaken, Growth(first.nFileReclaimed, now.nFileReclaimed));
-    if (nTaken >= first.nInactiveFile || InactiveLeft(before, now, progress) < WorthFreeing(now.nTotal) / 4) {
+    const std::uint64_t ownTaken = progress.bFileCache ? Growth(progress.resident, progress.pressed) : 0;
+    const std::uint64_t taken = Growth(ownTaken, Growth(first.fileReclaimed, now.fileReclaimed));
+    if (taken >= first.inactiveFile || InactiveLeft(before, now, progress) < WorthFreeing(now.total) / 4) {
         return Stop::NothingLeft;
     }
-    return progress.nResident >= progress.nBound ? Stop::Bound : Stop::None;
+    return progress.resident >= progress.bound ? Stop::Bound : Stop::None;
 }
 
 const char *Describe(Stop stop)

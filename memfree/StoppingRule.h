@@ -31,12 +31,12 @@ enum class Stop
 struct PressureProgress
 {
     /// Pressed in all, and of these still in memory: the kernel takes our own pages too.
-    std::uint64_t nPressed = 0;
-    std::uint64_t nResident = 0;
+    std::uint64_t pressed = 0;
+    std::uint64_t resident = 0;
     /// Whether the pages are file cache, and so counted as such.
     bool bFileCache = false;
-    /// Of nResident.
-    std::uint64_t nBound = 0;
+    /// Of resident.
+    std::uint64_t bound = 0;
     std::uint64_t msElapsed = 0;
 };
 
@@ -49,16 +49,16 @@ public:
     bool Mostly(const PressureProgress &progress);
 
 private:
-    std::uint64_t nPressedBefore = 0;
-    std::uint64_t nTakenBefore = 0;
+    std::uint64_t pressedBefore = 0;
+    std::uint64_t takenBefore = 0;
 };
 
 /// What is kept available to everyone: 5 % of the memory, 256 MiB at least.
-std::uint64_t MemoryReserve(std::uint64_t nTotal);
+std::uint64_t MemoryReserve(std::uint64_t total);
 
 /// Less inactive memory than this is not worth a run, nor a further step: what an idle desktop reads again at
 /// once.
-std::uint64_t WorthFreeing(std::uint64_t nTotal);
+std::uint64_t WorthFreeing(std::uint64_t total);
 
 /// How long all of it may take, in milliseconds: below the 50 s after which whoever asked gives us up.
 constexpr std::uint64_t msDeadline = 40'000;

@@ -72,9 +72,9 @@ int main(int argc, char *argv[])
     if (!count) {
         return Fail("a byte count is needed; see memfree --help", BadArguments);
     }
-    const auto nBytes = ParseByteCount(count);
-    if (!nBytes) {
+    const auto bytes = ParseByteCount(count);
+    if (!bytes) {
         return Fail("not a byte count: \"" + std::string(count) + "\"", BadArguments);
     }
-    return Tell(bDryRun ? PlanMemory(*nBytes) : FreeMemory(*nBytes));
+    return Tell(bDryRun ? PlanMemory(*bytes) : FreeMemory(*bytes));
 }

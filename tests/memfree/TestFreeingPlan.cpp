@@ -11,19 +11,19 @@ using Changes = QList<std::function<void(Situation &)>>;
 
 namespace {
 
-constexpr std::uint64_t MiB = nBytesPerMiB;
-constexpr std::uint64_t GiB = nBytesPerGiB;
+constexpr std::uint64_t MiB = bytesPerMiB;
+constexpr std::uint64_t GiB = bytesPerGiB;
 
 /// An ordinary desktop with 8 GiB: 2 GiB free, 4 GiB inactive, no swap, an ordinary user.
 Situation Desktop()
 {
     Situation situation;
-    situation.memory.nTotal = 8 * GiB;
-    situation.memory.nFree = 2 * GiB;
-    situation.memory.nAvailable = 6 * GiB;
-    situation.memory.nActiveFile = GiB / 2;
-    situation.memory.nInactiveFile = 4 * GiB;
-    situation.nAsked = 6 * GiB + 100 * MiB;
+    situation.memory.total = 8 * GiB;
+    situation.memory.free = 2 * GiB;
+    situation.memory.available = 6 * GiB;
+    situation.memory.activeFile = GiB / 2;
+    situation.memory.inactiveFile = 4 * GiB;
+    situation.asked = 6 * GiB + 100 * MiB;
     situation.pressureDirectory = "/home/user/.cache";
     return situation;
 }
@@ -45,18 +45,18 @@ private slots:
             const Decision decision = Decide(situation, lastTried);
             return decision.means == Means::Nothing
                        ? decision.reason
-                       : Name(decision.means) + (' ' + std::to_string(decision.nBound / MiB));
+                       : Name(decision.means) + (' ' + std::to_string(decision.bound / MiB));
         };
         const auto root = [](Situation &s) { s.bMayDropCaches = true; };
-        const auto groups = [](Situation &s) { s.nInCgroups = GiB; };
-        const auto emptyGroups = [](Situation &s) { s.nInCgroups = MiB; };
-        const auto swap = [](Situation &s) { s.memory.nSwapFree = 1; };
+        const auto groups = [](Situation &s) { s.inactiveInCgroups = GiB; };
+        const auto emptyGroups = [](Situation &s) { s.inactiveInCgroups = MiB; };
+        const auto swap = [](Situation &s) { s.memory.swapFree = 1; };
         const auto swapless = [](Situation &s) { s.bCgroupsWithoutSwap = true; };
         const auto noDisk = [](Situation &s) { s.pressureDirectory.clear(); };
-        const auto asked = [](std::uint64_t n) { return [n](Situation &s) { s.nAsked = n; }; };
-        const auto free = [](std::uint64_t n) { return [n](Situation &s) { s.memory.nFree = n; }; };
-        const auto available = [](std::uint64_t n) { return [n](Situation &s) { s.memory.nAvailable = n; }; };
-        const auto idle = [](std::uint64_t n) { return [n](Situation &s) { s.memory.nInactiveFile = n; }; };
+        const auto asked = [](std::uint64_t n) { return [n](Situation &s) { s.asked = n; }; };
+        const auto free = [](std::uint64_t n) { return [n](Situation &s) { s.memory.free = n; }; };
+        const auto available = [](std::uint64_t n) { return [n](Situation &s) { s.memory.available = n; }; };
+        const auto idle = [](std::uint64_t n) { return [n](Situation &s) { s.memory.inactiveFile = n; }; };
         const auto room = [](const CgroupRoom &r) { return [r](Situation &s) { s.room = r; }; };
 
         QCOMPARE(plan({root}), "dropping the page cache 0");
@@ -87,59 +87,59 @@ private slots:
     {
         const auto stop = [](const std::function<void(MemoryState &, PressureProgress &)> &change) {
             MemoryState before = Desktop().memory;
-            before.nSwapUsed = 10 * MiB;
-            before.nRefaulted = GiB;
+            before.swapUsed = 10 * MiB;
+            before.refaulted = GiB;
             before.usStalled = 1'000'000;
             MemoryState first = before; // after other ways, which took some
-            first.nFileReclaimed = GiB;
+            first.fileReclaimed = GiB;
             // After 1 s and 1 GiB, which has come out of what was free.
             MemoryState now = first;
-            now.nFree -= GiB;
-            now.nInactiveFile += GiB;
+            now.free -= GiB;
+            now.inactiveFile += GiB;
             PressureProgress progress = {GiB, GiB, true, 6 * GiB, 1000};
             change(now, progress);
             return CheckPressure(before, first, now, progress);
         };
         const auto allowed = [](auto &now, auto &progress) {
             progress.msElapsed = 39999;
-            now.nSwapUsed += MiB;
-            now.nRefaulted += 5 * MiB;
+            now.swapUsed += MiB;
+            now.refaulted += 5 * MiB;
             progress.bFileCache = false; // not to be taken off what is left
-            now.nInactiveFile = GiB;
+            now.inactiveFile = GiB;
         };
         const auto ownCountedAsActive = [](auto &now, auto &) {
-            now.nActiveFile += GiB;
-            now.nInactiveFile = GiB;
+            now.activeFile += GiB;
+            now.inactiveFile = GiB;
         };
         QCOMPARE(stop(allowed), Stop::None);
         QCOMPARE(stop([](auto &, auto &progress) { progress.msElapsed = 40000; }), Stop::Deadline);
-        QCOMPARE(stop([](auto &now, auto &) { now.nAvailable = 409 * MiB; }), Stop::ShortOfMemory);
-        QCOMPARE(stop([](auto &now, auto &) { now.nSwapUsed += 2 * MiB; }), Stop::Swapping);
-        QCOMPARE(stop([](auto &now, auto &) { now.nSwapUsed = 0; }), Stop::None);
-        QCOMPARE(stop([](auto &now, auto &) { now.nRefaulted += 6 * MiB; }), Stop::EvictingInUse);
+        QCOMPARE(stop([](auto &now, auto &) { now.available = 409 * MiB; }), Stop::ShortOfMemory);
+        QCOMPARE(stop([](auto &now, auto &) { now.swapUsed += 2 * MiB; }), Stop::Swapping);
+        QCOMPARE(stop([](auto &now, auto &) { now.swapUsed = 0; }), Stop::None);
+        QCOMPARE(stop([](auto &now, auto &) { now.refaulted += 6 * MiB; }), Stop::EvictingInUse);
         QCOMPARE(stop([](auto &now, auto &) { now.usStalled += 500'000; }), Stop::None);
         QCOMPARE(stop([](auto &now, auto &) { now.usStalled += 600'000; }), Stop::Stalling);
-        QCOMPARE(stop([](auto &now, auto &) { now.nInactiveFile = GiB; }), Stop::NothingLeft);
+        QCOMPARE(stop([](auto &now, auto &) { now.inactiveFile = GiB; }), Stop::NothingLeft);
         QCOMPARE(stop(ownCountedAsActive), Stop::None);
         // Others fill the cache as quickly as it is taken.
-        const auto taken = [](std::uint64_t nBytes) {
-            return [nBytes](auto &now, auto &progress) {
-                now.nFileReclaimed += nBytes;
-                progress.nResident = GiB - 100 * MiB;
+        const auto taken = [](std::uint64_t bytes) {
+            return [bytes](auto &now, auto &progress) {
+                now.fileReclaimed += bytes;
+                progress.resident = GiB - 100 * MiB;
             };
         };
-        const std::uint64_t nInactive = Desktop().memory.nInactiveFile;
-        QCOMPARE(stop(taken(nInactive + 99 * MiB)), Stop::None);
-        QCOMPARE(stop(taken(nInactive + 100 * MiB)), Stop::NothingLeft);
-        QCOMPARE(stop([](auto &, auto &progress) { progress.nBound = GiB; }), Stop::Bound);
+        const std::uint64_t inactive = Desktop().memory.inactiveFile;
+        QCOMPARE(stop(taken(inactive + 99 * MiB)), Stop::None);
+        QCOMPARE(stop(taken(inactive + 100 * MiB)), Stop::NothingLeft);
+        QCOMPARE(stop([](auto &, auto &progress) { progress.bound = GiB; }), Stop::Bound);
     }
 
     void OwnPages()
     {
         OwnPagesTaken taken;
         // Bound 4 GiB: a window of 128 MiB.
-        const auto mostly = [&taken](std::uint64_t nPressedMiB, std::uint64_t nResidentMiB) {
-            return taken.Mostly({nPressedMiB * MiB, nResidentMiB * MiB, true, 4 * GiB, 0});
+        const auto mostly = [&taken](std::uint64_t pressedMiB, std::uint64_t residentMiB) {
+            return taken.Mostly({pressedMiB * MiB, residentMiB * MiB, true, 4 * GiB, 0});
         };
         QVERIFY(!mostly(1000, 1000));
         QVERIFY(!mostly(1200, 1100)); // half of what is pressed costs our own, no more

@@ -25,7 +25,7 @@ std::uint64_t RoomIn(const QByteArray &self, const QList<QByteArrayList> &files)
     for (const QByteArrayList &file : files) {
         tree.Write("cgroup/" + file[0], file[1]);
     }
-    return ReadCgroupRoom(tree.Path("proc"), tree.Path("cgroup")).nRoom;
+    return ReadCgroupRoom(tree.Path("proc"), tree.Path("cgroup")).room;
 }
 
 } // namespace
@@ -38,7 +38,7 @@ private slots:
     void Sizes()
     {
         QCOMPARE(FormatByteCount(6367087267), "5.93 GiB");
-        QCOMPARE(FormatByteCount(nBytesPerGiB - 1), "1024.0 MiB");
+        QCOMPARE(FormatByteCount(bytesPerGiB - 1), "1024.0 MiB");
         QCOMPARE(FormatByteCount(std::uint64_t{340} * 1024), "340 KiB");
     }
 
@@ -46,17 +46,16 @@ private slots:
     {
         MemoryState state;
         QVERIFY(ParseMeminfo(Meminfo().toStdString(), state));
-        const QList<quint64> kibibytes = {state.nTotal / 1024,        state.nFree / 1024,
-                                          state.nAvailable / 1024,    state.nActiveFile / 1024,
-                                          state.nInactiveFile / 1024, state.nDirty / 1024,
-                                          state.nSwapFree / 1024,     state.nSwapUsed / 1024};
+        const QList<quint64> kibibytes = {
+            state.total / 1024,        state.free / 1024,  state.available / 1024, state.activeFile / 1024,
+            state.inactiveFile / 1024, state.dirty / 1024, state.swapFree / 1024,  state.swapUsed / 1024};
         QCOMPARE(kibibytes,
                  QList<quint64>({8000000, 2000000, 5000000, 400000, 3000000, 340, 900000, 100000}));
         // Kernels without.
         QVERIFY(ParseMeminfo(Meminfo("MemAvailable").toStdString(), state));
-        QCOMPARE(state.nAvailable, state.nFree);
+        QCOMPARE(state.available, state.free);
         QVERIFY(ParseMeminfo(Meminfo("SwapTotal").toStdString(), state));
-        QCOMPARE(state.nSwapUsed, 0ULL);
+        QCOMPARE(state.swapUsed, 0ULL);
     }
 
     void BadMeminfo()
@@ -79,19 +78,19 @@ private slots:
         QVERIFY(!ReadMemoryState(tree.Path(), state, error));
         QVERIFY(error.find("/meminfo") != std::string::npos);
 
-        const auto nPage = static_cast<std::uint64_t>(sysconf(_SC_PAGESIZE));
+        const auto pageBytes = static_cast<std::uint64_t>(sysconf(_SC_PAGESIZE));
         tree.Write("meminfo", Meminfo());
         tree.Write("vmstat", "workingset_refault_anon 5\nworkingset_refault_file 7\npgsteal_kswapd 4\n"
                              "pgsteal_direct 5\npgsteal_file 30\n");
         tree.Write("pressure/memory", "some avg10=0 total=1\nfull avg10=0 total=42\n");
         QVERIFY(ReadMemoryState(tree.Path(), state, error));
-        QCOMPARE(state.nRefaulted, 7 * nPage);
-        QCOMPARE(state.nFileReclaimed, 9 * nPage);
+        QCOMPARE(state.refaulted, 7 * pageBytes);
+        QCOMPARE(state.fileReclaimed, 9 * pageBytes);
         QCOMPARE(state.usStalled, 42ULL);
         tree.Write("vmstat", "workingset_refault 3\n");
         tree.Write("pressure/memory", "some avg10=0 total=1\nfull avg10=0\nsome avg10=0 total=1\n");
         QVERIFY(ReadMemoryState(tree.Path(), state, error));
-        QCOMPARE(state.nRefaulted, 3 * nPage);
+        QCOMPARE(state.refaulted, 3 * pageBytes);
         QCOMPARE(state.usStalled, 0ULL);
     }
 
@@ -143,13 +142,13 @@ private slots:
         tree.Write("memory.stat", "inactive_anon 5000000\ninactive_file 3000000\n");
         QCOMPARE(ReclaimCgroup(tree.Path(), false, never), Stop::NothingLeft);
         QCOMPARE(tree.Read("memory.reclaim"), QByteArray("3000000"));
-        int nSteps = 0;
+        int steps = 0;
         const auto shrink = [&] {
-            tree.Write("memory.stat", ++nSteps == 1 ? "inactive_file 1500000" : "inactive_file 400000");
+            tree.Write("memory.stat", ++steps == 1 ? "inactive_file 1500000" : "inactive_file 400000");
             return Stop::None;
         };
         QCOMPARE(ReclaimCgroup(tree.Path(), false, shrink), Stop::NothingLeft);
-        QCOMPARE(nSteps, 2);
+        QCOMPARE(steps, 2);
     }
 };
 

@@ -42,12 +42,12 @@ private slots:
     void init()
     {
         proc.Write("meminfo", Meminfo());
-        nDescriptors = CountIn("/proc/self/fd");
+        descriptors = CountIn("/proc/self/fd");
     }
     void cleanup()
     {
         QCOMPARE(::waitid(P_ALL, 0, nullptr, WEXITED | WNOHANG | WNOWAIT), -1); // no child is left
-        QCOMPARE(CountIn("/proc/self/fd"), nDescriptors);
+        QCOMPARE(CountIn("/proc/self/fd"), descriptors);
     }
 
     void FileHasNeitherNameNorBlocks()
@@ -55,16 +55,16 @@ private slots:
         for (const char *place : {"/dev/shm", "/proc", "/dev", "/nowhere/at/all", "/etc/passwd", ""}) {
             QVERIFY2(FindPressureDirectory({place}).empty(), place);
         }
-        QCOMPARE(PressWith("/dev/shm", nBytesPerMiB, {}), Stop::Failed);
+        QCOMPARE(PressWith("/dev/shm", bytesPerMiB, {}), Stop::Failed);
         if (disk.empty()) {
             QSKIP("no disk file system that this user may write to");
         }
         const QTemporaryDir directory(QString::fromStdString(disk) + "/memfree-test-XXXXXX");
-        const int descriptor = OpenPressureFile(directory.path().toStdString(), 8 * nBytesPerGiB);
+        const int descriptor = OpenPressureFile(directory.path().toStdString(), 8 * bytesPerGiB);
         struct stat status = {};
         QCOMPARE(fstat(descriptor, &status), 0);
         close(descriptor);
-        QCOMPARE(quint64(status.st_size), quint64(8 * nBytesPerGiB));
+        QCOMPARE(quint64(status.st_size), quint64(8 * bytesPerGiB));
         QCOMPARE(quint64(status.st_blocks), 0ULL);
         QCOMPARE(quint64(status.st_nlink), 0ULL);
         QCOMPARE(CountIn(directory.path()), 0);
@@ -77,12 +77,12 @@ private slots:
             const auto look = [&last](const PressureProgress &now) {
                 last = now;
                 // Some pages may be taken at once on a machine that is short of memory.
-                QVERIFY(now.nResident > now.nPressed / 2);
-                QVERIFY(now.nResident < now.nPressed + 4 * nBytesPerMiB);
+                QVERIFY(now.resident > now.pressed / 2);
+                QVERIFY(now.resident < now.pressed + 4 * bytesPerMiB);
             };
-            QCOMPARE(PressWith(directory, 40 * nBytesPerMiB, look), Stop::Bound);
-            QVERIFY(last.nResident >= 40 * nBytesPerMiB);
-            QVERIFY(last.nPressed <= 44 * nBytesPerMiB);
+            QCOMPARE(PressWith(directory, 40 * bytesPerMiB, look), Stop::Bound);
+            QVERIFY(last.resident >= 40 * bytesPerMiB);
+            QVERIFY(last.pressed <= 44 * bytesPerMiB);
         }
     }
 
@@ -94,13 +94,13 @@ private slots:
                                                      {QByteArray(), Stop::Failed}};
         for (const auto &[meminfo, stop] : harms) {
             proc.Write("meminfo", Meminfo());
-            int nSteps = 0;
+            int steps = 0;
             const auto harm = [&, report = meminfo](const PressureProgress &) {
-                ++nSteps;
+                ++steps;
                 proc.Write("meminfo", report);
             };
-            QCOMPARE(PressWith(disk, 4 * nBytesPerGiB, harm), stop);
-            QCOMPARE(nSteps, 1);
+            QCOMPARE(PressWith(disk, 4 * bytesPerGiB, harm), stop);
+            QCOMPARE(steps, 1);
         }
     }
 
@@ -113,7 +113,7 @@ private slots:
             QCOMPARE(::kill(children.readAll().toInt(), SIGKILL), 0);
         };
         for (const std::string &directory : {std::string(), disk}) {
-            QCOMPARE(PressWith(directory, nBytesPerGiB, killChild), Stop::ShortOfMemory);
+            QCOMPARE(PressWith(directory, bytesPerGiB, killChild), Stop::ShortOfMemory);
         }
     }
 
@@ -124,14 +124,13 @@ private slots:
         QCOMPARE(::pipe(ends), 0);
         ::dup2(ends[1], STDOUT_FILENO);
         ::close(ends[0]);
-        int nSteps = 0;
-        const Stop stop =
-            PressWith(disk, 4 * nBytesPerGiB, [&nSteps](const PressureProgress &) { ++nSteps; });
+        int steps = 0;
+        const Stop stop = PressWith(disk, 4 * bytesPerGiB, [&steps](const PressureProgress &) { ++steps; });
         ::dup2(output, STDOUT_FILENO);
         ::close(output);
         ::close(ends[1]);
         QCOMPARE(stop, Stop::NobodyWaits);
-        QVERIFY(nSteps <= 1);
+        QVERIFY(steps <= 1);
     }
 
     void KilledAtAnyMoment()
@@ -144,7 +143,7 @@ private slots:
             QCOMPARE(::pipe(held), 0);
             const pid_t presser = ::fork();
             if (presser == 0) {
-                while (PressWith(directory, 64 * nBytesPerMiB, [](const PressureProgress &) {}) ==
+                while (PressWith(directory, 64 * bytesPerMiB, [](const PressureProgress &) {}) ==
                        Stop::Bound) {
                 }
                 ::_exit(1);
@@ -181,14 +180,14 @@ private slots:
     }
 
 private:
-    Stop PressWith(const std::string &directory, std::uint64_t nBound,
+    Stop PressWith(const std::string &directory, std::uint64_t bound,
                    const std::function<void(const PressureProgress &)> &onProgress) const
     {
         MemoryState before;
         ParseMeminfo(Meminfo().toStdString(), before);
         PressureRequest request;
         request.directory = directory;
-        request.nBound = nBound;
+        request.bound = bound;
         request.before = &before;
         request.first = &before;
         request.msStarted = msNow();
@@ -198,7 +197,7 @@ private:
 
     TemporaryTree proc;
     std::string disk;
-    qsizetype nDescriptors = 0;
+    qsizetype descriptors = 0;
 };
 
 QTEST_GUILESS_MAIN(TestPressure)
