@@ -2,6 +2,7 @@
 
 #include <cerrno>
 #include <fcntl.h>
+#include <poll.h>
 #include <unistd.h>
 
 bool ReadFile(const std::string &path, std::string &content)
@@ -34,4 +35,10 @@ bool WriteAll(int descriptor, const std::string &text)
         written += static_cast<std::size_t>(count);
     }
     return true;
+}
+
+bool IsReaderGone(int descriptor)
+{
+    pollfd output = {descriptor, 0, 0};
+    return poll(&output, 1, 0) == 1 && (output.revents & (POLLERR | POLLHUP)) != 0;
 }

@@ -1,6 +1,5 @@
 #pragma once
 
-#include "memfree/CgroupRoom.h"
 #include "memfree/MemoryState.h"
 
 #include <string>

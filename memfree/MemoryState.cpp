@@ -20,6 +20,52 @@ std::optional<std::uint64_t> FindKiB(std::string_view report, std::string_view n
     return kibibytes && *kibibytes <= maxKiB ? std::optional(*kibibytes * bytesPerKiB) : std::nullopt;
 }
 
+struct LimitFiles
+{
+    const char *limit;
+    const char *used;
+};
+
+constexpr LimitFiles version1[] = {{"/memory.limit_in_bytes", "/memory.usage_in_bytes"}};
+constexpr LimitFiles version2[] = {{"/memory.max", "/memory.current"}, {"/memory.high", "/memory.current"}};
+
+void Tighten(CgroupRoom &room, const std::string &directory, const LimitFiles &files)
+{
+    std::string text;
+    if (!ReadFile(directory + files.limit, text)) {
+        return;
+    }
+    // "max" in version 2; no limit in version 1 is the largest number of pages.
+    const auto limit = ParseNumber(text);
+    if (!limit || *limit > std::uint64_t(1) << 60 || !ReadFile(directory + files.used, text)) {
+        return;
+    }
+    const std::uint64_t used = ParseNumber(text).value_or(0);
+    const std::uint64_t left = *limit - std::min(used, *limit);
+    if (left < room.room) {
+        room = {left, *limit};
+    }
+}
+
+/// From the group up to the root of the hierarchy. A path that is not there (in a container it is the host's)
+/// is only passed by: the root of the mount is then the group that holds the limit.
+template <std::size_t n>
+void TightenUpwards(CgroupRoom &room, const std::string &root, std::string path, const LimitFiles (&files)[n])
+{
+    while (true) {
+        while (path.ends_with('/')) {
+            path.pop_back();
+        }
+        for (const LimitFiles &pair : files) {
+            Tighten(room, root + path, pair);
+        }
+        if (path.empty()) {
+            return;
+        }
+        path.resize(path.find_last_of('/') == std::string::npos ? 0 : path.find_last_of('/'));
+    }
+}
+
 } // namespace
 
 bool ParseMeminfo(std::string_view report, MemoryState &state)
@@ -82,4 +128,45 @@ bool ReadMemoryState(const std::string &proc, MemoryState &state, std::string &e
         state.usStalled = ParseStalled(report).value_or(0);
     }
     return true;
+}
+
+std::string_view FindCgroupPath(std::string_view report, std::string_view controller)
+{
+    while (!report.empty()) {
+        const std::string_view line = report.substr(0, report.find('\n'));
+        report.remove_prefix(std::min(line.size() + 1, report.size()));
+        // ID:CONTROLLER,CONTROLLER:PATH
+        const std::size_t firstColon = line.find(':');
+        const std::size_t secondColon =
+            firstColon == std::string_view::npos ? firstColon : line.find(':', firstColon + 1);
+        if (secondColon == std::string_view::npos) {
+            continue;
+        }
+        std::string_view names = line.substr(firstColon + 1, secondColon - firstColon - 1);
+        for (bool bMore = true; bMore;) {
+            const std::size_t comma = names.find(',');
+            if (names.substr(0, comma) == controller) {
+                return line.substr(secondColon + 1);
+            }
+            bMore = comma != std::string_view::npos;
+            names.remove_prefix(bMore ? comma + 1 : 0);
+        }
+    }
+    return {};
+}
+
+CgroupRoom ReadCgroupRoom(const std::string &proc, const std::string &cgroup)
+{
+    CgroupRoom room;
+    std::string report;
+    if (!ReadFile(proc + "/self/cgroup", report)) {
+        return room;
+    }
+    if (const auto path = FindCgroupPath(report, "memory"); !path.empty()) {
+        TightenUpwards(room, cgroup + "/memory", std::string(path), version1);
+    }
+    if (const auto path = FindCgroupPath(report, ""); !path.empty()) {
+        TightenUpwards(room, cgroup, std::string(path), version2);
+    }
+    return room;
 }

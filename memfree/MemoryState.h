@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <limits>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -38,3 +39,21 @@ std::optional<std::uint64_t> ParseStalled(std::string_view report);
 /// Looks at meminfo, vmstat and pressure/memory in a proc directory. @return false, and why, if memory cannot
 /// be read.
 bool ReadMemoryState(const std::string &proc, MemoryState &state, std::string &error);
+
+/// How much more a process may use before a limit of its control groups is reached.
+struct CgroupRoom
+{
+    static constexpr std::uint64_t unlimited = std::numeric_limits<std::uint64_t>::max();
+
+    std::uint64_t room = unlimited;
+    /// The limit that leaves the least room.
+    std::uint64_t limit = unlimited;
+};
+
+/// The path of the group in /proc/self/cgroup: of the memory controller's hierarchy (version 1), or the
+/// unified one (version 2) with an empty controller. Empty if the report has none.
+std::string_view FindCgroupPath(std::string_view report, std::string_view controller);
+
+/// The tightest of the limits on the way from this process's group up to the root, both versions; memory.high
+/// counts as a limit, since beyond it the kernel slows the process down to a crawl.
+CgroupRoom ReadCgroupRoom(const std::string &proc, const std::string &cgroup);

@@ -1,12 +1,10 @@
 #include "memfree/Pressure.h"
 
 #include "memfree/ByteCount.h"
-#include "memfree/CgroupRoom.h"
 #include "memfree/Files.h"
 #include "memfree/MemoryState.h"
 #include "memfree/PressureChild.h"
 #include "memfree/PressureFile.h"
-#include "memfree/Reader.h"
 #include "platform/linux/FindField.h"
 
 #include <algorithm>
@@ -71,7 +69,7 @@ Stop AfterFailure(const PressureChild &child)
 Stop Check(const std::string &proc, const std::string &cgroup, const PressureRequest &request,
            const PressureProgress &progress, bool bStepDone, std::uint64_t &free)
 {
-    if (IsReaderGone()) {
+    if (IsReaderGone(STDOUT_FILENO)) {
         return Stop::NobodyWaits;
     }
     MemoryState now;

@@ -1,9 +1,11 @@
 // memfree: frees inactive memory, as much as can be had without harm.
-#include "memfree/ByteCount.h"
 #include "memfree/Files.h"
-#include "memfree/Reclaim.h"
+#include "memfree/FreeMemory.h"
 
+#include <charconv>
 #include <csignal>
+#include <optional>
+#include <string_view>
 #include <unistd.h>
 
 namespace {
@@ -25,6 +27,17 @@ constexpr std::string_view help =
     "\n"
     "At the end one line says what was freed, by what means and in how long.\n"
     "Exit status: 0 done or nothing to do, 1 could not, 2 bad usage.\n";
+
+/// A byte count as it is given on the command line: decimal digits only, more than zero, within 63 bits.
+std::optional<std::uint64_t> ParseByteCount(std::string_view text)
+{
+    std::int64_t number = 0;
+    const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), number);
+    if (error != std::errc() || end != text.data() + text.size() || number <= 0) {
+        return std::nullopt;
+    }
+    return static_cast<std::uint64_t>(number);
+}
 
 int Fail(const std::string &why, ExitStatus status)
 {

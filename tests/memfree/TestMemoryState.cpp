@@ -1,7 +1,6 @@
 // What memfree reads: /proc/meminfo, /proc/vmstat, pressure and control groups, friendly and hostile.
 #include "memfree/ByteCount.h"
-#include "memfree/CgroupReclaim.h"
-#include "memfree/CgroupRoom.h"
+#include "memfree/KernelReclaim.h"
 #include "memfree/MemoryState.h"
 #include "tests/memfree/Meminfo.h"
 #include "tests/support/TemporaryTree.h"

@@ -1,6 +1,6 @@
 // Pressure for real, but with little: where it stops, and what is left when it is killed.
 #include "memfree/ByteCount.h"
-#include "memfree/DropCaches.h"
+#include "memfree/KernelReclaim.h"
 #include "memfree/MemoryState.h"
 #include "memfree/Pressure.h"
 #include "memfree/PressureFile.h"

@@ -3,12 +3,12 @@
 // macOS has no call for an ordinary user that drops cache, so this is pressure with anonymous memory alone,
 // in steps, for as long as the kernel itself calls its memory pressure normal. It is held by this process,
 // and given back whatever ends it.
-#include "memfree/Reclaim.h"
+#include "memfree/FreeMemory.h"
 
 #include "memfree/ByteCount.h"
+#include "memfree/Files.h"
 #include "memfree/MemoryState.h"
-#include "memfree/Progress.h"
-#include "memfree/Reader.h"
+#include "memfree/ProgressBar.h"
 #include "memfree/StoppingRule.h"
 
 #include <algorithm>
@@ -79,7 +79,7 @@ Stop Press(const MemoryState &before, std::uint64_t bound, std::uint64_t msStart
     if (memory == MAP_FAILED) {
         return Stop::Failed;
     }
-    Progress bar;
+    ProgressBar bar;
     PressureProgress progress;
     progress.bound = bound;
     Stop stop = Stop::None;
@@ -98,7 +98,7 @@ Stop Press(const MemoryState &before, std::uint64_t bound, std::uint64_t msStart
         std::string error;
         if (!Look(now, error)) {
             stop = Stop::Failed;
-        } else if (IsReaderGone()) {
+        } else if (IsReaderGone(STDOUT_FILENO)) {
             stop = Stop::NobodyWaits;
         } else {
             stop = IsPressureNormal() ? CheckPressure(before, before, now, progress) : Stop::ShortOfMemory;

@@ -1,13 +1,12 @@
-#include "memfree/Reclaim.h"
+#include "memfree/FreeMemory.h"
 
 #include "memfree/ByteCount.h"
-#include "memfree/CgroupReclaim.h"
-#include "memfree/DropCaches.h"
+#include "memfree/Files.h"
 #include "memfree/FreeingPlan.h"
+#include "memfree/KernelReclaim.h"
 #include "memfree/Pressure.h"
 #include "memfree/PressureFile.h"
-#include "memfree/Progress.h"
-#include "memfree/Reader.h"
+#include "memfree/ProgressBar.h"
 
 #include <cstdio>
 #include <unistd.h>
@@ -117,7 +116,7 @@ private:
     Stop ReclaimCgroups()
     {
         const auto check = [this] {
-            if (IsReaderGone()) {
+            if (IsReaderGone(STDOUT_FILENO)) {
                 return Stop::NobodyWaits;
             }
             MemoryState now;
@@ -140,7 +139,7 @@ private:
 
     Stop PressWith(const Decision &decision)
     {
-        Progress bar;
+        ProgressBar bar;
         PressureRequest request;
         if (decision.means == Means::PageCachePressure) {
             request.directory = place.situation.pressureDirectory;
