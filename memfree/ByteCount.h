@@ -8,7 +8,7 @@ constexpr std::uint64_t bytesPerKiB = 1024;
 constexpr std::uint64_t bytesPerMiB = bytesPerKiB * 1024;
 constexpr std::uint64_t bytesPerGiB = bytesPerMiB * 1024;
 
-/// For people: "5.93 GiB", "12.0 MiB", "340 KiB". Rounded, three digits at least.
+/// For users, rounded: "5.93 GiB", "12.0 MiB", "340 KiB".
 inline std::string FormatByteCount(std::uint64_t bytes)
 {
     struct Unit

@@ -12,7 +12,7 @@ bool ReadFile(const std::string &path, std::string &content)
     if (descriptor < 0) {
         return false;
     }
-    // All of /proc/meminfo fits in one read, so its numbers belong to one moment.
+    // All of /proc/meminfo fits into one read(), so its numbers belong to one moment.
     char chunk[8192];
     ssize_t count = 0;
     while ((count = read(descriptor, chunk, sizeof chunk)) > 0) {

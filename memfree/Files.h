@@ -2,12 +2,13 @@
 
 #include <string>
 
-/// Reads all of a file. @return false if it cannot be opened or read; errno says why
+/// Reads a whole file. @return false if it cannot be opened or read; errno has the reason
 bool ReadFile(const std::string &path, std::string &content);
 
-/// Writes all of the text, in one write() unless the system cuts it short. @return false on failure; errno
-/// says why
+/// Writes the whole text, in one write() unless the system cuts it short. @return false on failure; errno
+/// has the reason
 bool WriteAll(int descriptor, const std::string &text);
 
-/// Whether the descriptor is a pipe whose reader has gone: the program that asked has been killed, say.
+/// Whether the descriptor is a pipe that has no reader any more, for example because the calling program was
+/// killed.
 bool IsReaderGone(int descriptor);

@@ -3,18 +3,18 @@
 #include <cstdint>
 #include <string>
 
-/// How a run ended. The caller writes it down, after everything has been given back.
+/// The result of a run. It is printed after all pressure has been released.
 struct Outcome
 {
-    /// Nothing to do is no failure.
+    /// Having nothing to do is not a failure.
     bool bFailed = false;
-    /// One line for people, without its end.
+    /// For users, without the last newline.
     std::string text;
 };
 
-/// Frees inactive memory by the means that this system and this user have, so that up to bytes are free in
-/// the end.
-Outcome FreeMemory(std::uint64_t bytes);
+/// Frees inactive memory with the methods that this system offers to this user, until the given number of
+/// bytes is free.
+Outcome FreeMemory(std::uint64_t asked);
 
-/// What FreeMemory() would do now and why, one line or more; touches nothing.
-Outcome PlanMemory(std::uint64_t bytes);
+/// Says what FreeMemory() would do now and why, in one or more lines. Changes nothing.
+Outcome DryRun(std::uint64_t asked);

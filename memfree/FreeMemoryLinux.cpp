@@ -8,6 +8,7 @@
 #include "memfree/PressureFile.h"
 #include "memfree/ProgressBar.h"
 
+#include <algorithm>
 #include <cstdio>
 #include <unistd.h>
 
@@ -16,98 +17,89 @@ namespace {
 const std::string proc = "/proc";
 const std::string cgroup = "/sys/fs/cgroup";
 
-/// How long the kernel may take to write dirty pages before we go on without them.
-constexpr int msSync = 5000;
+/// The run goes on without the dirty pages that are not written by then.
+constexpr int msSyncTimeout = 5000;
 
-struct Place
+bool ReadSituation(std::uint64_t asked, Situation &situation, std::string &error)
 {
-    Situation situation;
-    std::vector<std::string> groups;
-};
-
-bool Look(std::uint64_t bytes, Place &place, std::string &error)
-{
-    Situation &situation = place.situation;
-    situation.asked = bytes;
+    situation = {};
+    situation.asked = asked;
     if (!ReadMemoryState(proc, situation.memory, error)) {
         return false;
     }
-    situation.room = ReadCgroupRoom(proc, cgroup);
+    situation.cgroup = ReadCgroupHeadroom(proc, cgroup);
     situation.bMayDropCaches = MayDropCaches(proc);
-    place.groups = FindReclaimableCgroups(cgroup, getuid());
-    for (const std::string &group : place.groups) {
+    situation.reclaimableCgroups = FindReclaimableCgroups(cgroup, getuid());
+    for (const std::string &group : situation.reclaimableCgroups) {
         situation.inactiveInCgroups += InactiveInCgroup(group);
     }
-    situation.bCgroupsWithoutSwap =
-        !place.groups.empty() && situation.memory.swapFree > 0 && ReclaimsWithoutSwap(place.groups.front());
+    situation.bCgroupReclaimWithoutSwap = !situation.reclaimableCgroups.empty() &&
+                                          situation.memory.swapFree > 0 &&
+                                          CanReclaimWithoutSwap(situation.reclaimableCgroups.front());
     situation.pressureDirectory = FindPressureDirectory(PressureDirectories());
     return true;
 }
 
 bool NeedsSync(const MemoryState &memory)
 {
-    return memory.dirty >= WorthFreeing(memory.total);
+    return memory.dirty >= MinWorthFreeing(memory.total);
 }
 
-/// Whether the next way is to be tried: not to add to a harm, and not where there is no more to be had.
-bool LeavesMore(Stop stop, Means means)
+/// Whether the next method may free more. Not after a harm, and not when nothing inactive is left.
+bool ShouldTryNext(Stop stop, Method method)
 {
-    return stop == Stop::Failed || stop == Stop::TakingOwn ||
-           (stop == Stop::NothingLeft && means == Means::CgroupReclaim);
+    return stop == Stop::Failed || stop == Stop::EvictingOwn ||
+           (stop == Stop::NothingLeft && method == Method::CgroupReclaim);
 }
 
-class Run
+class FreeingRun
 {
 public:
-    Run(std::uint64_t bytes, const Place &first) : asked(bytes), before(first.situation.memory), place(first)
-    {
-    }
+    explicit FreeingRun(const Situation &start) : before(start.memory), situation(start) {}
 
-    Outcome Finish()
+    Outcome Execute()
     {
-        Decision decision = Decide(place.situation, Means::Nothing);
-        if (decision.means == Means::Nothing) {
+        Decision decision = Decide(situation, Method::None);
+        if (decision.method == Method::None) {
             return {false, "nothing to do: " + decision.reason};
         }
         if (NeedsSync(before)) {
-            SyncWithin(msSync);
+            SyncWithin(msSyncTimeout);
         }
         std::string used;
         std::string refused;
         Stop stop = Stop::None;
         std::string error;
-        while (decision.means != Means::Nothing) {
-            stop = Try(decision);
+        while (decision.method != Method::None) {
+            stop = Apply(decision);
             std::string &names = stop == Stop::Failed ? refused : used;
-            names += (names.empty() ? "" : " and ") + std::string(Name(decision.means));
-            Place now;
-            if (!Look(asked, now, error)) {
+            names += (names.empty() ? "" : " and ") + std::string(MethodName(decision.method));
+            if (!ReadSituation(situation.asked, situation, error)) {
                 return {true, error};
             }
-            place = now;
-            if (!LeavesMore(stop, decision.means)) {
+            if (!ShouldTryNext(stop, decision.method)) {
                 break;
             }
-            decision = Decide(place.situation, decision.means);
+            decision = Decide(situation, decision.method);
         }
         if (used.empty()) {
             return {true, "could not free memory: the system refused " + refused};
         }
-        return Report(used, stop);
+        return Summary(used, stop);
     }
 
 private:
-    Stop Try(const Decision &decision)
+    Stop Apply(const Decision &decision)
     {
-        switch (decision.means) {
-        case Means::DropCaches:
+        switch (decision.method) {
+        case Method::DropCaches:
             return DropPageCache(proc) ? Stop::NothingLeft : Stop::Failed;
-        case Means::CgroupReclaim:
+        case Method::CgroupReclaim:
             return ReclaimCgroups();
-        case Means::PageCachePressure:
-        case Means::AnonymousPressure:
+        case Method::PageCachePressure:
+        case Method::AnonymousPressure:
             return PressWith(decision);
-        case Means::Nothing:
+        case Method::None:
             break;
         }
         return Stop::Failed;
@@ -117,7 +109,7 @@ private:
     {
         const auto check = [this] {
             if (IsReaderGone(STDOUT_FILENO)) {
-                return Stop::NobodyWaits;
+                return Stop::ReaderGone;
             }
             MemoryState now;
             std::string error;
@@ -125,8 +117,8 @@ private:
                                                      : Stop::Failed;
         };
         Stop stop = Stop::Failed;
-        for (const std::string &group : place.groups) {
-            const Stop last = ReclaimCgroup(group, place.situation.bCgroupsWithoutSwap, check);
+        for (const std::string &group : situation.reclaimableCgroups) {
+            const Stop last = ReclaimCgroup(group, situation.bCgroupReclaimWithoutSwap, check);
             if (last != Stop::Failed) {
                 stop = last;
             }
@@ -141,20 +133,20 @@ private:
     {
         ProgressBar bar;
         PressureRequest request;
-        if (decision.means == Means::PageCachePressure) {
-            request.directory = place.situation.pressureDirectory;
+        if (decision.method == Method::PageCachePressure) {
+            request.directory = situation.pressureDirectory;
         }
         request.bound = decision.bound;
         request.before = &before;
-        request.first = &place.situation.memory;
         request.msStarted = msStarted;
+        request.pressureStart = &situation.memory;
         request.onProgress = [&bar](const PressureProgress &now) { bar.Show(now.resident, now.bound); };
-        return Press(proc, cgroup, request);
+        return ApplyPressure(proc, cgroup, request);
     }
 
-    Outcome Report(const std::string &used, Stop stop) const
+    Outcome Summary(const std::string &used, Stop stop) const
     {
-        const std::uint64_t free = place.situation.memory.free;
+        const std::uint64_t free = situation.memory.free;
         const std::uint64_t freed = free - std::min(before.free, free);
         char seconds[40];
         std::snprintf(seconds, sizeof seconds, "%.2f s", static_cast<double>(msNow() - msStarted) / 1000);
@@ -164,41 +156,40 @@ private:
     }
 
     const std::uint64_t msStarted = msNow();
-    const std::uint64_t asked;
     const MemoryState before;
-    Place place;
+    Situation situation;
 };
 
 } // namespace
 
-Outcome FreeMemory(std::uint64_t bytes)
+Outcome FreeMemory(std::uint64_t asked)
 {
-    Place place;
+    Situation situation;
     std::string error;
-    return Look(bytes, place, error) ? Run(bytes, place).Finish() : Outcome{true, error};
+    return ReadSituation(asked, situation, error) ? FreeingRun(situation).Execute() : Outcome{true, error};
 }
 
-Outcome PlanMemory(std::uint64_t bytes)
+Outcome DryRun(std::uint64_t asked)
 {
-    Place place;
+    Situation situation;
     std::string error;
-    if (!Look(bytes, place, error)) {
+    if (!ReadSituation(asked, situation, error)) {
         return {true, error};
     }
-    const MemoryState &memory = place.situation.memory;
-    const Decision decision = Decide(place.situation, Means::Nothing);
+    const MemoryState &memory = situation.memory;
+    const Decision decision = Decide(situation, Method::None);
     std::string text = FormatByteCount(memory.inactiveFile) + " inactive, " + FormatByteCount(memory.free) +
                        " free, " + FormatByteCount(memory.available) + " available of " +
                        FormatByteCount(memory.total) + "\n";
-    if (decision.means == Means::Nothing) {
+    if (decision.method == Method::None) {
         return {false, text + "would do nothing: " + decision.reason};
     }
     if (NeedsSync(memory)) {
-        text += "would have " + FormatByteCount(memory.dirty) + " of dirty pages written first\n";
+        text += "would first have " + FormatByteCount(memory.dirty) + " of dirty pages written to disk\n";
     }
-    text += std::string("would try ") + Name(decision.means) + ": " + decision.reason;
+    text += std::string("would try ") + MethodName(decision.method) + ": " + decision.reason;
     if (decision.bound > 0) {
-        text += "\nwould press with " + FormatByteCount(decision.bound) + " at most, and keep " +
+        text += "\nwould apply at most " + FormatByteCount(decision.bound) + " of pressure, and keep " +
                 FormatByteCount(MemoryReserve(memory.total)) + " available";
     }
     return {false, text};

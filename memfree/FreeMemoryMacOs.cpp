@@ -1,8 +1,8 @@
-// Unproved: written to the interfaces that macOS documents, but neither built nor run on one so far.
+// Untested: written against the documented macOS interfaces, but neither built nor run on macOS so far.
 //
-// macOS has no call for an ordinary user that drops cache, so this is pressure with anonymous memory alone,
-// in steps, for as long as the kernel itself calls its memory pressure normal. It is held by this process,
-// and given back whatever ends it.
+// macOS offers an ordinary user no call that drops cache. So the only method is pressure with anonymous
+// memory, in steps, while the kernel reports normal memory pressure. This process holds the memory itself, so
+// its end releases it, whatever the cause.
 #include "memfree/FreeMemory.h"
 
 #include "memfree/ByteCount.h"
@@ -20,8 +20,8 @@
 
 namespace {
 
-constexpr std::uint64_t step = 16 * bytesPerMiB;
-/// Of kern.memorystatus_vm_pressure_level: 1 normal, 2 warning, 4 critical.
+constexpr std::uint64_t stepSize = 16 * bytesPerMiB;
+/// A value of kern.memorystatus_vm_pressure_level. The others are 2 for warning and 4 for critical.
 constexpr int pressureNormal = 1;
 
 template <typename Value> bool ReadSysctl(const char *name, Value &value)
@@ -30,15 +30,15 @@ template <typename Value> bool ReadSysctl(const char *name, Value &value)
     return sysctlbyname(name, &value, &size, nullptr, 0) == 0;
 }
 
-bool Look(MemoryState &state, std::string &error)
+bool ReadMemoryState(MemoryState &state, std::string &error)
 {
     vm_statistics64_data_t counts = {};
-    mach_msg_type_number_t count = HOST_VM_INFO64_COUNT;
+    mach_msg_type_number_t size = HOST_VM_INFO64_COUNT;
     xsw_usage swap = {};
     if (!ReadSysctl("hw.memsize", state.total) ||
         host_statistics64(mach_host_self(), HOST_VM_INFO64, reinterpret_cast<host_info64_t>(&counts),
-                          &count) != KERN_SUCCESS) {
-        error = "cannot tell how memory is used";
+                          &size) != KERN_SUCCESS) {
+        error = "cannot read the memory statistics";
         return false;
     }
     const auto pageBytes = static_cast<std::uint64_t>(sysconf(_SC_PAGESIZE));
@@ -60,46 +60,47 @@ bool IsPressureNormal()
     return !ReadSysctl("kern.memorystatus_vm_pressure_level", level) || level == pressureNormal;
 }
 
-std::string Refusal(std::uint64_t asked, const MemoryState &state)
+/// Why there is nothing to do; empty if there is.
+std::string ReasonForNothing(std::uint64_t asked, const MemoryState &state)
 {
     if (asked <= state.free) {
         return FormatByteCount(state.free) + " are free already";
     }
-    if (state.inactiveFile < WorthFreeing(state.total)) {
+    if (state.inactiveFile < MinWorthFreeing(state.total)) {
         return "only " + FormatByteCount(state.inactiveFile) + " are inactive";
     }
     return IsPressureNormal() ? std::string() : "memory is short";
 }
 
-/// All of the pressure is given back when this returns.
-Stop Press(const MemoryState &before, std::uint64_t bound, std::uint64_t msStarted)
+/// Releases all of its memory before it returns.
+Stop ApplyPressure(const MemoryState &before, std::uint64_t bound, std::uint64_t msStarted)
 {
     void *memory =
         mmap(nullptr, bound, PROT_READ | PROT_WRITE, MAP_PRIVATE | MAP_ANON | MAP_NORESERVE, -1, 0);
     if (memory == MAP_FAILED) {
         return Stop::Failed;
     }
+    const auto pageBytes = static_cast<std::uint64_t>(sysconf(_SC_PAGESIZE));
     ProgressBar bar;
     PressureProgress progress;
     progress.bound = bound;
     Stop stop = Stop::None;
     while (stop == Stop::None) {
-        const std::uint64_t end = std::min(progress.pressed + step, bound);
-        for (; progress.pressed < end;
-             progress.pressed += static_cast<std::uint64_t>(sysconf(_SC_PAGESIZE))) {
-            // Not all alike, or the compressor makes nothing of them.
-            static_cast<volatile std::uint64_t *>(memory)[progress.pressed / sizeof(std::uint64_t)] =
-                progress.pressed + 1;
+        const std::uint64_t end = std::min(progress.populated + stepSize, bound);
+        for (; progress.populated < end; progress.populated += pageBytes) {
+            // A different value per page, because the kernel compresses equal pages to almost nothing.
+            static_cast<volatile std::uint64_t *>(memory)[progress.populated / sizeof(std::uint64_t)] =
+                progress.populated + 1;
         }
-        progress.resident = progress.pressed;
+        progress.resident = progress.populated;
         progress.msElapsed = msNow() - msStarted;
-        bar.Show(progress.pressed, bound);
+        bar.Show(progress.populated, bound);
         MemoryState now;
         std::string error;
-        if (!Look(now, error)) {
+        if (!ReadMemoryState(now, error)) {
             stop = Stop::Failed;
         } else if (IsReaderGone(STDOUT_FILENO)) {
-            stop = Stop::NobodyWaits;
+            stop = Stop::ReaderGone;
         } else {
             stop = IsPressureNormal() ? CheckPressure(before, before, now, progress) : Stop::ShortOfMemory;
         }
@@ -110,20 +111,20 @@ Stop Press(const MemoryState &before, std::uint64_t bound, std::uint64_t msStart
 
 } // namespace
 
-Outcome FreeMemory(std::uint64_t bytes)
+Outcome FreeMemory(std::uint64_t asked)
 {
     const std::uint64_t msStarted = msNow();
     MemoryState before;
     std::string error;
-    if (!Look(before, error)) {
+    if (!ReadMemoryState(before, error)) {
         return {true, error};
     }
-    if (const std::string refusal = Refusal(bytes, before); !refusal.empty()) {
-        return {false, "nothing to do: " + refusal};
+    if (const std::string reason = ReasonForNothing(asked, before); !reason.empty()) {
+        return {false, "nothing to do: " + reason};
     }
-    const Stop stop = Press(before, std::min(bytes, before.free + before.inactiveFile), msStarted);
+    const Stop stop = ApplyPressure(before, std::min(asked, before.free + before.inactiveFile), msStarted);
     MemoryState after;
-    if (stop == Stop::Failed || !Look(after, error)) {
+    if (stop == Stop::Failed || !ReadMemoryState(after, error)) {
         return {true, std::string("could not free memory: ") + Describe(Stop::Failed)};
     }
     const std::uint64_t freed = after.free - std::min(before.free, after.free);
@@ -132,17 +133,17 @@ Outcome FreeMemory(std::uint64_t bytes)
                        (Describe(stop) ? std::string(" (stopped: ") + Describe(stop) + ")" : std::string())};
 }
 
-Outcome PlanMemory(std::uint64_t bytes)
+Outcome DryRun(std::uint64_t asked)
 {
     MemoryState state;
     std::string error;
-    if (!Look(state, error)) {
+    if (!ReadMemoryState(state, error)) {
         return {true, error};
     }
     const std::string figures = FormatByteCount(state.inactiveFile) + " inactive, " +
                                 FormatByteCount(state.free) + " free of " + FormatByteCount(state.total) +
                                 "\n";
-    const std::string refusal = Refusal(bytes, state);
-    return {false, figures + (refusal.empty() ? std::string("would try anonymous pressure")
-                                              : "would do nothing: " + refusal)};
+    const std::string reason = ReasonForNothing(asked, state);
+    return {false, figures + (reason.empty() ? std::string("would try anonymous pressure")
+                                             : "would do nothing: " + reason)};
 }

@@ -7,90 +7,93 @@
 
 namespace {
 
-Decision Nothing(const std::string &reason)
+Decision DoNothing(const std::string &reason)
 {
-    return {Means::Nothing, 0, reason};
+    return {Method::None, 0, reason};
 }
 
-/// Pressure takes free memory first, then the oldest cache. A little more than both, since what is free and
-/// inactive is spread over the kernel's zones and lists.
-Decision DecidePressure(const Situation &situation, Means lastTried)
+/// Pressure takes free memory first, then the oldest cache. The bound is slightly larger than both together,
+/// because free and inactive pages are spread over the kernel's zones and lists.
+Decision DecidePressure(const Situation &situation, Method lastTried)
 {
     const MemoryState &memory = situation.memory;
-    const std::uint64_t worth = WorthFreeing(memory.total);
+    const std::uint64_t minGain = MinWorthFreeing(memory.total);
     const std::uint64_t reserve = MemoryReserve(memory.total);
-    // All that is free has to be taken first.
+    // All free memory has to be taken before any cache, which is not worth it for so little cache.
     if (memory.inactiveFile < memory.free / 64) {
-        return Nothing("only " + FormatByteCount(memory.inactiveFile) + " are inactive beside " +
-                       FormatByteCount(memory.free) + " free");
+        return DoNothing("only " + FormatByteCount(memory.inactiveFile) + " are inactive beside " +
+                         FormatByteCount(memory.free) + " free");
     }
     if (memory.available <= reserve) {
-        return Nothing("only " + FormatByteCount(memory.available) + " are available, and " +
-                       FormatByteCount(reserve) + " are kept in reserve");
+        return DoNothing("only " + FormatByteCount(memory.available) + " are available, and " +
+                         FormatByteCount(reserve) + " are kept in reserve");
     }
-    // Our pages are charged to our own group. At its limit the kernel would take them back instead of
-    // anything else.
-    const std::uint64_t room = situation.room.room / 16 * 15;
-    if (room < memory.free + worth) {
-        return Nothing("this control group's limit of " + FormatByteCount(situation.room.limit) +
-                       " leaves room for " + FormatByteCount(room) +
-                       ", less than is free: pressure from inside would only reclaim itself");
+    // Pressure pages are charged to this process's own cgroup. At the cgroup's limit the kernel would reclaim
+    // them instead of other cache.
+    const std::uint64_t headroom = situation.cgroup.headroom / 16 * 15;
+    if (headroom < memory.free + minGain) {
+        return DoNothing("this control group's limit of " + FormatByteCount(situation.cgroup.limit) +
+                         " leaves room for " + FormatByteCount(headroom) +
+                         ", less than is free: pressure would only reclaim its own pages");
     }
-    const std::uint64_t bound = std::min({situation.asked, room, memory.free + memory.inactiveFile + worth});
-    if (lastTried < Means::PageCachePressure && !situation.pressureDirectory.empty()) {
-        return {Means::PageCachePressure, bound, "with a sparse file in " + situation.pressureDirectory};
+    const std::uint64_t bound =
+        std::min({situation.asked, headroom, memory.free + memory.inactiveFile + minGain});
+    if (lastTried < Method::PageCachePressure && !situation.pressureDirectory.empty()) {
+        return {Method::PageCachePressure, bound, "with a sparse file in " + situation.pressureDirectory};
     }
-    const std::string why = lastTried < Means::PageCachePressure
-                                ? "there is no disk file system to press with"
-                                : "page-cache pressure could not do it all";
-    // A group's limit needs a reserve of its own: unlike cache, this memory cannot be taken back.
-    const std::uint64_t groupReserve = std::min(MemoryReserve(situation.room.limit), situation.room.room);
-    const std::uint64_t anonymous =
-        std::min({bound, memory.available - reserve, situation.room.room - groupReserve});
-    if (anonymous < memory.free + worth) {
-        return Nothing(why + ", and the reserve of " + FormatByteCount(reserve) + " leaves room for no more");
+    const std::string reason = lastTried < Method::PageCachePressure
+                                   ? "no disk file system can be used for a sparse file"
+                                   : "page-cache pressure did not free enough";
+    // The kernel cannot take anonymous pages back, so the cgroup's limit needs a reserve too.
+    const std::uint64_t cgroupReserve =
+        std::min(MemoryReserve(situation.cgroup.limit), situation.cgroup.headroom);
+    const std::uint64_t anonymousBound =
+        std::min({bound, memory.available - reserve, situation.cgroup.headroom - cgroupReserve});
+    if (anonymousBound < memory.free + minGain) {
+        return DoNothing(reason + ", and the reserve of " + FormatByteCount(reserve) +
+                         " leaves room for no more");
     }
-    return {Means::AnonymousPressure, anonymous, why};
+    return {Method::AnonymousPressure, anonymousBound, reason};
 }
 
 } // namespace
 
-Decision Decide(const Situation &situation, Means lastTried)
+Decision Decide(const Situation &situation, Method lastTried)
 {
     const MemoryState &memory = situation.memory;
-    const std::uint64_t worth = WorthFreeing(memory.total);
+    const std::uint64_t minGain = MinWorthFreeing(memory.total);
     if (situation.asked <= memory.free) {
-        return Nothing(FormatByteCount(memory.free) + " are free already");
+        return DoNothing(FormatByteCount(memory.free) + " are free already");
     }
-    if (memory.inactiveFile < worth) {
-        return Nothing("only " + FormatByteCount(memory.inactiveFile) + " are inactive");
+    if (memory.inactiveFile < minGain) {
+        return DoNothing("only " + FormatByteCount(memory.inactiveFile) + " are inactive");
     }
-    if (lastTried < Means::DropCaches && situation.bMayDropCaches) {
-        return {Means::DropCaches, 0, "this user may drop the page cache"};
+    if (lastTried < Method::DropCaches && situation.bMayDropCaches) {
+        return {Method::DropCaches, 0, "this user may drop the page cache"};
     }
-    const bool bCannotSwap = memory.swapFree == 0 || situation.bCgroupsWithoutSwap;
-    if (lastTried < Means::CgroupReclaim && bCannotSwap && situation.inactiveInCgroups >= worth) {
-        return {Means::CgroupReclaim, 0,
+    const bool bCannotSwap = memory.swapFree == 0 || situation.bCgroupReclaimWithoutSwap;
+    if (lastTried < Method::CgroupReclaim && bCannotSwap && situation.inactiveInCgroups >= minGain) {
+        return {Method::CgroupReclaim, 0,
                 FormatByteCount(situation.inactiveInCgroups) + " are in control groups of this user"};
     }
-    if (lastTried < Means::AnonymousPressure) {
+    if (lastTried < Method::AnonymousPressure) {
         return DecidePressure(situation, lastTried);
     }
-    return Nothing("all ways have been tried");
+    return DoNothing("all methods have been tried");
 }
 
-const char *Name(Means means)
+const char *MethodName(Method method)
 {
-    switch (means) {
-    case Means::DropCaches:
+    switch (method) {
+    case Method::DropCaches:
         return "dropping the page cache";
-    case Means::CgroupReclaim:
+    case Method::CgroupReclaim:
         return "control group reclaim";
-    case Means::PageCachePressure:
+    case Method::PageCachePressure:
         return "page-cache pressure";
-    case Means::AnonymousPressure:
+    case Method::AnonymousPressure:
         return "anonymous pressure";
-    case Means::Nothing:
+    case Method::None:
         break;
     }
     return "nothing";

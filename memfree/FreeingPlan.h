@@ -3,45 +3,48 @@
 #include "memfree/MemoryState.h"
 
 #include <string>
+#include <vector>
 
-/// The ladder: the gentlest and quickest first; each is tried only if the ones before could not do it.
-enum class Means
+/// The ways to free memory, from the gentlest and fastest on. A method is tried only if the ones before it
+/// did not free enough.
+enum class Method
 {
-    Nothing,
+    None,
     DropCaches,
     CgroupReclaim,
     PageCachePressure,
     AnonymousPressure
 };
 
-/// All that the decision rests on.
+/// Everything that the decision depends on.
 struct Situation
 {
-    /// What is asked to be free in the end; pressure never goes beyond it.
+    /// How much shall be free in the end. Pressure never exceeds it.
     std::uint64_t asked = 0;
     MemoryState memory;
-    CgroupRoom room;
+    CgroupHeadroom cgroup;
     bool bMayDropCaches = false;
-    /// Inactive file cache in the control groups that this user may shrink.
+    /// The cgroups that this user may have reclaimed, and their inactive file cache.
+    std::vector<std::string> reclaimableCgroups;
     std::uint64_t inactiveInCgroups = 0;
-    /// Whether the kernel takes "swappiness=0" there; without, groups are left alone where there is swap to
-    /// write to.
-    bool bCgroupsWithoutSwap = false;
-    /// Where a file can be made whose pages are mere cache; empty if there is no such place.
+    /// Whether the kernel accepts "swappiness=0" for these cgroups. If not, they are reclaimed only while no
+    /// swap is free.
+    bool bCgroupReclaimWithoutSwap = false;
+    /// A directory where the pages of a sparse file are plain page cache; empty if there is none.
     std::string pressureDirectory;
 };
 
 struct Decision
 {
-    Means means = Means::Nothing;
-    /// How much pressure at most, in bytes.
+    Method method = Method::None;
+    /// The upper bound for pressure, in bytes.
     std::uint64_t bound = 0;
-    /// For people: why, or why not.
+    /// For users: why this method, or why none.
     std::string reason;
 };
 
-/// The next rung, above the last one tried (Nothing at first), for the situation as it is now.
-Decision Decide(const Situation &situation, Means lastTried);
+/// Chooses the next method after the last one tried (None at first) for the present situation.
+Decision Decide(const Situation &situation, Method lastTried);
 
-/// For people: "page-cache pressure".
-const char *Name(Means means);
+/// For users: "page-cache pressure".
+const char *MethodName(Method method);

@@ -2,7 +2,6 @@
 
 #include "memfree/ByteCount.h"
 #include "memfree/Files.h"
-#include "memfree/MemoryState.h"
 #include "platform/linux/FindField.h"
 
 #include <algorithm>
@@ -18,34 +17,31 @@
 
 namespace {
 
-std::string DropCachesPath(const std::string &proc)
-{
-    return proc + "/sys/vm/drop_caches";
-}
-
+constexpr const char *dropCachesFile = "/sys/vm/drop_caches";
 constexpr const char *reclaimFile = "/memory.reclaim";
 
-/// One write is one request. @return false if less was reclaimed than was asked for; errno says why
-bool Request(const std::string &group, std::uint64_t bytes, bool bWithoutSwap)
+/// @return false if less was reclaimed than requested; errno has the reason
+bool RequestReclaim(const std::string &group, std::uint64_t bytes, bool bWithoutSwap)
 {
     const int descriptor = open((group + reclaimFile).c_str(), O_WRONLY | O_CLOEXEC);
     if (descriptor < 0) {
         return false;
     }
+    // Not WriteAll(): each write() is a request of its own.
     const std::string request = std::to_string(bytes) + (bWithoutSwap ? " swappiness=0" : "");
-    const bool bDone = write(descriptor, request.data(), request.size()) >= 0;
+    const bool bReclaimed = write(descriptor, request.data(), request.size()) >= 0;
     const int error = errno;
     close(descriptor);
     errno = error;
-    return bDone;
+    return bReclaimed;
 }
 
 } // namespace
 
 bool MayDropCaches(const std::string &proc)
 {
-    // Says no too where the file system is read-only, as in most containers.
-    return access(DropCachesPath(proc).c_str(), W_OK) == 0;
+    // access() also refuses on a read-only file system, which most containers have here.
+    return access((proc + dropCachesFile).c_str(), W_OK) == 0;
 }
 
 bool SyncWithin(int ms)
@@ -56,18 +52,19 @@ bool SyncWithin(int ms)
     }
     const pid_t child = fork();
     if (child == 0) {
-        // It may outlive us in an uninterruptible wait: it must not hold anyone's pipe open then.
-        const auto last = static_cast<unsigned>(ends[1]);
-        close_range(0, last - 1, 0);
-        close_range(last + 1, ~0U, 0);
+        // The child can outlive this process in an uninterruptible wait. It must not keep the caller's pipes
+        // open meanwhile.
+        const auto writeEnd = static_cast<unsigned>(ends[1]);
+        close_range(0, writeEnd - 1, 0);
+        close_range(writeEnd + 1, ~0U, 0);
         prctl(PR_SET_PDEATHSIG, SIGKILL);
         sync();
         _exit(0);
     }
     close(ends[1]);
-    pollfd end = {ends[0], POLLIN, 0};
-    // The pipe ends when the child does.
-    const bool bSynced = child > 0 && poll(&end, 1, ms) == 1;
+    // The pipe is closed when the child exits.
+    pollfd childExit = {ends[0], POLLIN, 0};
+    const bool bSynced = child > 0 && poll(&childExit, 1, ms) == 1;
     close(ends[0]);
     if (child > 0) {
         kill(child, SIGKILL);
@@ -78,7 +75,7 @@ bool SyncWithin(int ms)
 
 bool DropPageCache(const std::string &proc)
 {
-    const int descriptor = open(DropCachesPath(proc).c_str(), O_WRONLY | O_CLOEXEC);
+    const int descriptor = open((proc + dropCachesFile).c_str(), O_WRONLY | O_CLOEXEC);
     if (descriptor < 0) {
         return false;
     }
@@ -114,21 +111,21 @@ std::uint64_t InactiveInCgroup(const std::string &group)
     return ReadFile(group + "/memory.stat", report) ? FindField(report, "inactive_file").value_or(0) : 0;
 }
 
-bool ReclaimsWithoutSwap(const std::string &group)
+bool CanReclaimWithoutSwap(const std::string &group)
 {
-    return Request(group, 0, true);
+    return RequestReclaim(group, 0, true);
 }
 
 Stop ReclaimCgroup(const std::string &group, bool bWithoutSwap, const std::function<Stop()> &check)
 {
-    constexpr std::uint64_t step = 64 * bytesPerMiB;
+    constexpr std::uint64_t maxStep = 64 * bytesPerMiB;
     for (bool bFirst = true;; bFirst = false) {
         const std::uint64_t before = InactiveInCgroup(group);
         if (before < bytesPerMiB) {
             return Stop::NothingLeft;
         }
-        // EAGAIN: less than that was to be had, which is known only by looking again.
-        if (!Request(group, std::min(before, step), bWithoutSwap) && errno != EAGAIN) {
+        // EAGAIN means that less was reclaimed than requested. Only memory.stat tells how much.
+        if (!RequestReclaim(group, std::min(before, maxStep), bWithoutSwap) && errno != EAGAIN) {
             return bFirst ? Stop::Failed : Stop::NothingLeft;
         }
         if (const Stop stop = check(); stop != Stop::None) {

@@ -8,29 +8,29 @@
 #include <sys/types.h>
 #include <vector>
 
-/// Whether this process may write the proc directory's sys/vm/drop_caches.
+// The requests to reclaim that the kernel accepts: dropping the page cache, and memory.reclaim of a cgroup.
+
+/// Whether this process may write sys/vm/drop_caches in the proc directory.
 bool MayDropCaches(const std::string &proc);
 
-/// Lets the kernel write dirty pages to their files, so that they are clean and can go; waits no longer than
-/// ms. A file system that hangs (a server that is gone) keeps only a child of ours, never us. @return false
-/// if it was given up
+/// Has the kernel write dirty pages to disk, so that they become clean and can be dropped. Waits at most ms:
+/// sync() runs in a child process, so a hanging file system (for example a lost server) blocks only that
+/// child. @return false on timeout
 bool SyncWithin(int ms);
 
-/// Drops the clean page cache, all of it. @return false if the kernel refuses; errno says why
+/// Drops the whole clean page cache. @return false if the kernel refuses
 bool DropPageCache(const std::string &proc);
 
-/// The control groups under this user's own service manager that have a memory.reclaim which the user may
-/// write: the manager's own group if it may be written, otherwise the groups right below it (app.slice and
-/// session.slice).
+/// The cgroups of the user's service manager with a memory.reclaim that the user may write: the manager's own
+/// cgroup, otherwise the cgroups directly below it (such as app.slice and session.slice).
 std::vector<std::string> FindReclaimableCgroups(const std::string &cgroup, uid_t user);
 
-/// File cache not used lately in such a group and all below it, in bytes; 0 if it cannot be told.
+/// The inactive file cache of a cgroup and all cgroups below it, in bytes; 0 if unknown.
 std::uint64_t InactiveInCgroup(const std::string &group);
 
-/// Whether the kernel takes "swappiness=0" with a request to reclaim (6.12 does); asks for nothing to be
-/// reclaimed.
-bool ReclaimsWithoutSwap(const std::string &group);
+/// Whether the kernel accepts "swappiness=0" in a reclaim request (6.12 does). Reclaims nothing.
+bool CanReclaimWithoutSwap(const std::string &group);
 
-/// Has the kernel reclaim the group's inactive cache in steps, until there is no more or check says stop.
-/// @return Stop::Failed if the kernel refused from the start
+/// Has the kernel reclaim the cgroup's inactive cache in steps, until none is left or check() returns a
+/// reason to stop. @return Stop::Failed if the kernel refuses the first request
 Stop ReclaimCgroup(const std::string &group, bool bWithoutSwap, const std::function<Stop()> &check);

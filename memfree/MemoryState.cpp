@@ -11,7 +11,7 @@
 
 namespace {
 
-/// No memory but a broken file: 2^50 bytes, a PiB.
+/// A number above this (a PiB) is a broken file.
 constexpr std::uint64_t maxKiB = std::uint64_t(1) << 40;
 
 std::optional<std::uint64_t> FindKiB(std::string_view report, std::string_view name)
@@ -29,35 +29,36 @@ struct LimitFiles
 constexpr LimitFiles version1[] = {{"/memory.limit_in_bytes", "/memory.usage_in_bytes"}};
 constexpr LimitFiles version2[] = {{"/memory.max", "/memory.current"}, {"/memory.high", "/memory.current"}};
 
-void Tighten(CgroupRoom &room, const std::string &directory, const LimitFiles &files)
+void ApplyLimit(CgroupHeadroom &tightest, const std::string &directory, const LimitFiles &files)
 {
     std::string text;
     if (!ReadFile(directory + files.limit, text)) {
         return;
     }
-    // "max" in version 2; no limit in version 1 is the largest number of pages.
+    // "No limit" is "max" in version 2, and the largest number of whole pages in version 1.
     const auto limit = ParseNumber(text);
     if (!limit || *limit > std::uint64_t(1) << 60 || !ReadFile(directory + files.used, text)) {
         return;
     }
     const std::uint64_t used = ParseNumber(text).value_or(0);
-    const std::uint64_t left = *limit - std::min(used, *limit);
-    if (left < room.room) {
-        room = {left, *limit};
+    const std::uint64_t headroom = *limit - std::min(used, *limit);
+    if (headroom < tightest.headroom) {
+        tightest = {headroom, *limit};
     }
 }
 
-/// From the group up to the root of the hierarchy. A path that is not there (in a container it is the host's)
-/// is only passed by: the root of the mount is then the group that holds the limit.
+/// Applies the limits from the cgroup up to the root of the hierarchy. A path that does not exist is skipped:
+/// in a container it can be the host's path, and the root of the mount is then the cgroup with the limit.
 template <std::size_t n>
-void TightenUpwards(CgroupRoom &room, const std::string &root, std::string path, const LimitFiles (&files)[n])
+void ApplyLimitsUpwards(CgroupHeadroom &tightest, const std::string &root, std::string path,
+                        const LimitFiles (&files)[n])
 {
     while (true) {
         while (path.ends_with('/')) {
             path.pop_back();
         }
         for (const LimitFiles &pair : files) {
-            Tighten(room, root + path, pair);
+            ApplyLimit(tightest, root + path, pair);
         }
         if (path.empty()) {
             return;
@@ -89,11 +90,11 @@ bool ParseMeminfo(std::string_view report, MemoryState &state)
 
 std::optional<std::uint64_t> ParseStalled(std::string_view report)
 {
-    const std::size_t lineStart = report.starts_with("full ") ? 0 : report.find("\nfull ");
-    if (lineStart == std::string_view::npos) {
+    const std::size_t line = report.starts_with("full ") ? 0 : report.find("\nfull ");
+    if (line == std::string_view::npos) {
         return std::nullopt;
     }
-    report.remove_prefix(lineStart + 1);
+    report.remove_prefix(line + 1);
     report = report.substr(0, report.find('\n'));
     constexpr std::string_view key = " total=";
     const std::size_t total = report.find(key);
@@ -110,18 +111,18 @@ bool ReadMemoryState(const std::string &proc, MemoryState &state, std::string &e
         return false;
     }
     if (!ParseMeminfo(report, state)) {
-        error = "cannot make sense of " + meminfo;
+        error = "cannot parse " + meminfo;
         return false;
     }
     if (ReadFile(proc + "/vmstat", report)) {
         const auto pageBytes = static_cast<std::uint64_t>(sysconf(_SC_PAGESIZE));
-        // Before kernel 5.9 one counter held both kinds.
-        const auto refaultedPages = FindField(report, "workingset_refault_file");
-        const auto refaultedPagesOld = FindField(report, "workingset_refault");
-        state.refaulted = refaultedPages.value_or(refaultedPagesOld.value_or(0)) * pageBytes;
-        // Not pgsteal_file, which also counts what a control group at its own limit takes from itself.
-        for (const char *taker : {"pgsteal_kswapd", "pgsteal_direct", "pgsteal_khugepaged"}) {
-            state.fileReclaimed += FindField(report, taker).value_or(0) * pageBytes;
+        // Before kernel 5.9 one counter covered file and anonymous pages.
+        const auto filePages = FindField(report, "workingset_refault_file");
+        const auto allPages = FindField(report, "workingset_refault");
+        state.refaulted = filePages.value_or(allPages.value_or(0)) * pageBytes;
+        // Not pgsteal_file: it also counts what a cgroup at its own limit reclaims from itself.
+        for (const char *reclaimer : {"pgsteal_kswapd", "pgsteal_direct", "pgsteal_khugepaged"}) {
+            state.fileReclaimed += FindField(report, reclaimer).value_or(0) * pageBytes;
         }
     }
     if (ReadFile(proc + "/pressure/memory", report)) {
@@ -155,18 +156,18 @@ std::string_view FindCgroupPath(std::string_view report, std::string_view contro
     return {};
 }
 
-CgroupRoom ReadCgroupRoom(const std::string &proc, const std::string &cgroup)
+CgroupHeadroom ReadCgroupHeadroom(const std::string &proc, const std::string &cgroup)
 {
-    CgroupRoom room;
+    CgroupHeadroom tightest;
     std::string report;
     if (!ReadFile(proc + "/self/cgroup", report)) {
-        return room;
+        return tightest;
     }
     if (const auto path = FindCgroupPath(report, "memory"); !path.empty()) {
-        TightenUpwards(room, cgroup + "/memory", std::string(path), version1);
+        ApplyLimitsUpwards(tightest, cgroup + "/memory", std::string(path), version1);
     }
     if (const auto path = FindCgroupPath(report, ""); !path.empty()) {
-        TightenUpwards(room, cgroup, std::string(path), version2);
+        ApplyLimitsUpwards(tightest, cgroup, std::string(path), version2);
     }
-    return room;
+    return tightest;
 }

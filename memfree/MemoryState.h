@@ -6,54 +6,53 @@
 #include <string>
 #include <string_view>
 
-/// What the kernel says of memory at one moment. Bytes unless the name says otherwise.
+/// The kernel's memory figures at one moment, in bytes unless the name says otherwise.
 struct MemoryState
 {
     std::uint64_t total = 0;
     std::uint64_t free = 0;
-    /// The kernel's own estimate of what a new program could get; as small as free where a kernel has none.
+    /// The kernel's estimate of what a new program could allocate. Same as free if the kernel gives none.
     std::uint64_t available = 0;
     std::uint64_t activeFile = 0;
-    /// File cache not used lately: what can be given back.
+    /// File cache that was not used recently: this is what can be freed.
     std::uint64_t inactiveFile = 0;
-    /// Not written to its file yet, so not to be had before it is.
+    /// Not yet written to disk, and not reclaimable before that.
     std::uint64_t dirty = 0;
     std::uint64_t swapFree = 0;
     std::uint64_t swapUsed = 0;
-    /// File pages that were read again soon after they had been evicted, since the start of the machine.
+    /// File pages that were read again soon after their eviction, since boot.
     std::uint64_t refaulted = 0;
-    /// Pages that were taken from whoever they belonged to because the machine ran short, since the start:
-    /// file pages, as long as nothing is swapped.
+    /// Pages reclaimed because the machine ran short of memory, since boot. As long as nothing is swapped,
+    /// these are file pages.
     std::uint64_t fileReclaimed = 0;
-    /// How long every task at once waited for memory (PSI "full"), since the start; 0 without PSI.
+    /// Time during which all tasks waited for memory at once (PSI "full"), since boot. 0 without PSI.
     std::uint64_t usStalled = 0;
 };
 
-/// Fills in what /proc/meminfo says; false if it lacks the total, the free or the inactive memory, or if they
-/// are senseless.
+/// Parses /proc/meminfo. @return false if total, free or inactive memory is missing or implausible
 bool ParseMeminfo(std::string_view report, MemoryState &state);
 
-/// The total of the "full" line of /proc/pressure/memory in microseconds.
+/// The total of the "full" line of /proc/pressure/memory, in microseconds.
 std::optional<std::uint64_t> ParseStalled(std::string_view report);
 
-/// Looks at meminfo, vmstat and pressure/memory in a proc directory. @return false, and why, if memory cannot
-/// be read.
+/// Reads meminfo, vmstat and pressure/memory from a proc directory. @return false and an error text if
+/// meminfo cannot be read
 bool ReadMemoryState(const std::string &proc, MemoryState &state, std::string &error);
 
-/// How much more a process may use before a limit of its control groups is reached.
-struct CgroupRoom
+/// How much more memory this process may use before it reaches a limit of its cgroups.
+struct CgroupHeadroom
 {
     static constexpr std::uint64_t unlimited = std::numeric_limits<std::uint64_t>::max();
 
-    std::uint64_t room = unlimited;
-    /// The limit that leaves the least room.
+    std::uint64_t headroom = unlimited;
+    /// The limit with the least headroom.
     std::uint64_t limit = unlimited;
 };
 
-/// The path of the group in /proc/self/cgroup: of the memory controller's hierarchy (version 1), or the
-/// unified one (version 2) with an empty controller. Empty if the report has none.
+/// Finds this process's cgroup in /proc/self/cgroup: in the hierarchy of the given controller (version 1), or
+/// in the unified hierarchy (version 2) if the controller is empty. @return its path; empty if there is none
 std::string_view FindCgroupPath(std::string_view report, std::string_view controller);
 
-/// The tightest of the limits on the way from this process's group up to the root, both versions; memory.high
-/// counts as a limit, since beyond it the kernel slows the process down to a crawl.
-CgroupRoom ReadCgroupRoom(const std::string &proc, const std::string &cgroup);
+/// Reads the tightest limit between this process's cgroup and the root, in both cgroup versions. memory.high
+/// counts as a limit, because the kernel slows a process to a crawl above it.
+CgroupHeadroom ReadCgroupHeadroom(const std::string &proc, const std::string &cgroup);

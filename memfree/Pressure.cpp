@@ -16,33 +16,32 @@ namespace {
 constexpr std::uint64_t minStep = 4 * bytesPerMiB;
 constexpr std::uint64_t maxStep = 64 * bytesPerMiB;
 
-/// While a step takes longer than this, the rules are looked at without waiting for its end.
-constexpr int msLook = 50;
+/// During a step that takes longer than this, the rules are checked before it ends.
+constexpr int msCheckInterval = 50;
 
-/// Steps of about 10 to 50 ms: long enough that looking costs nothing, short enough that a harm is not done
-/// for long.
-std::uint64_t NextStep(std::uint64_t step, std::uint64_t msTaken)
+/// Keeps a step between about 10 and 50 ms: long enough that the checks cost nothing, short enough that harm
+/// does not last.
+std::uint64_t NextStep(std::uint64_t step, std::uint64_t msSpent)
 {
-    if (msTaken < 10) {
+    if (msSpent < 10) {
         return std::min(step * 2, maxStep);
     }
-    return msTaken > 50 ? std::max(step / 2, minStep) : step;
+    return msSpent > 50 ? std::max(step / 2, minStep) : step;
 }
 
-/// What the kernel keeps back for itself. Below it every program that wants memory has to reclaim some first,
-/// and wait.
+/// The free memory that the kernel keeps for itself. Below this mark every program that allocates has to
+/// reclaim first, and waits for it.
 std::uint64_t KernelReserve(const std::string &proc)
 {
     std::string text;
     return ReadFile(proc + "/sys/vm/min_free_kbytes", text) ? ParseNumber(text).value_or(0) * bytesPerKiB : 0;
 }
 
-/// Once free memory has run out the kernel's own thread makes room, in the background, at half our speed.
-/// Waits until it has caught up or rests, so that it is it that reclaims, and not any program that happens to
-/// want a page.
-void LetKernelCatchUp(const std::string &proc, std::uint64_t kernelReserve)
+/// Once no memory is free, kswapd reclaims in the background, at half the speed of our pressure. Waits until
+/// kswapd has caught up or sleeps. Otherwise other programs would have to reclaim for their own allocations.
+void WaitForKswapd(const std::string &proc, std::uint64_t kernelReserve)
 {
-    // The thread goes on until a half more than the reserve is free.
+    // kswapd goes on until one and a half times the reserve is free.
     const std::uint64_t enough = kernelReserve + kernelReserve / 2;
     std::uint64_t best = 0;
     for (int idleRounds = 0; idleRounds < 6;) {
@@ -60,17 +59,17 @@ void LetKernelCatchUp(const std::string &proc, std::uint64_t kernelReserve)
     }
 }
 
-/// Memory that ran out is no reason to try the next way.
-Stop AfterFailure(const PressureChild &child)
+/// Stop::Failed leads to the next method, which must not happen after the kernel ran out of memory.
+Stop ReasonForFailure(const PressureChild &child)
 {
     return child.Killed() ? Stop::ShortOfMemory : Stop::Failed;
 }
 
-Stop Check(const std::string &proc, const std::string &cgroup, const PressureRequest &request,
-           const PressureProgress &progress, bool bStepDone, std::uint64_t &free)
+Stop CheckRules(const std::string &proc, const std::string &cgroup, const PressureRequest &request,
+                const PressureProgress &progress, bool bStepDone, std::uint64_t &free)
 {
     if (IsReaderGone(STDOUT_FILENO)) {
-        return Stop::NobodyWaits;
+        return Stop::ReaderGone;
     }
     MemoryState now;
     std::string error;
@@ -79,12 +78,12 @@ Stop Check(const std::string &proc, const std::string &cgroup, const PressureReq
     }
     free = now.free;
     if (!progress.bFileCache) {
-        const CgroupRoom room = ReadCgroupRoom(proc, cgroup);
-        if (room.room < MemoryReserve(room.limit) / 2) {
+        const CgroupHeadroom tightest = ReadCgroupHeadroom(proc, cgroup);
+        if (tightest.headroom < MemoryReserve(tightest.limit) / 2) {
             return Stop::ShortOfMemory;
         }
     }
-    return bStepDone ? CheckPressure(*request.before, *request.first, now, progress)
+    return bStepDone ? CheckPressure(*request.before, *request.pressureStart, now, progress)
                      : CheckHarm(*request.before, now, progress.msElapsed);
 }
 
@@ -98,11 +97,11 @@ std::uint64_t msNow()
            static_cast<std::uint64_t>(now.tv_nsec) / 1'000'000;
 }
 
-Stop Press(const std::string &proc, const std::string &cgroup, const PressureRequest &request)
+Stop ApplyPressure(const std::string &proc, const std::string &cgroup, const PressureRequest &request)
 {
-    // Whole pages, of whatever size.
+    // Whole MiB are whole pages, whatever the page size.
     const std::uint64_t bound = request.bound / bytesPerMiB * bytesPerMiB;
-    // Beyond the bound, which is for what is held at a time: some of it is taken back while we press.
+    // More than the bound, which limits the resident pages: some are evicted meanwhile.
     PressureSource source = {-1, bound * 4};
     const bool bFile = !request.directory.empty();
     if (bFile) {
@@ -113,38 +112,38 @@ Stop Press(const std::string &proc, const std::string &cgroup, const PressureReq
     }
     PressureChild child(source);
     if (bFile) {
-        // The child's alone: the pages go with its last descriptor.
+        // Only the child keeps the file open, so the pages are released when the child ends.
         close(source.descriptor);
     }
 
     PressureProgress progress;
     progress.bFileCache = bFile;
     progress.bound = bound;
-    OwnPagesTaken taken;
+    SelfEviction selfEviction;
     const std::uint64_t kernelReserve = KernelReserve(proc);
     std::uint64_t step = minStep;
     while (child.Started()) {
-        const std::uint64_t next =
-            std::min({step, source.size - progress.pressed, std::max(bound - progress.resident, minStep)});
-        const std::uint64_t msStep = msNow();
+        const std::uint64_t bytes =
+            std::min({step, source.size - progress.populated, std::max(bound - progress.resident, minStep)});
+        const std::uint64_t msStepStart = msNow();
         PressureReply reply;
-        if (!child.Press(next)) {
+        if (!child.Populate(bytes)) {
             break;
         }
         Stop stop = Stop::None;
         std::uint64_t free = 0;
         while (stop == Stop::None) {
-            const bool bReplied = child.WaitForReply(msLook, reply);
-            if (bReplied && !reply.bDone) {
-                return AfterFailure(child);
+            const bool bReplied = child.WaitForReply(msCheckInterval, reply);
+            if (bReplied && !reply.bPopulated) {
+                return ReasonForFailure(child);
             }
             if (bReplied) {
-                progress.pressed += next;
+                progress.populated += bytes;
                 progress.resident = reply.resident;
                 request.onProgress(progress);
             }
             progress.msElapsed = msNow() - request.msStarted;
-            stop = Check(proc, cgroup, request, progress, bReplied, free);
+            stop = CheckRules(proc, cgroup, request, progress, bReplied, free);
             if (bReplied) {
                 break;
             }
@@ -152,15 +151,15 @@ Stop Press(const std::string &proc, const std::string &cgroup, const PressureReq
         if (stop != Stop::None) {
             return stop;
         }
-        if (taken.Mostly(progress) || progress.pressed == source.size) {
-            return Stop::TakingOwn;
+        if (selfEviction.Dominates(progress) || progress.populated == source.size) {
+            return Stop::EvictingOwn;
         }
-        step = NextStep(step, msNow() - msStep);
+        step = NextStep(step, msNow() - msStepStart);
         if (free < kernelReserve * 2 + step) {
-            // Less than lies between the mark at which the thread wakes and the reserve.
+            // Less than the distance between the mark that wakes kswapd and the reserve.
             step = std::min(step, std::max(kernelReserve / 8, minStep));
-            LetKernelCatchUp(proc, kernelReserve);
+            WaitForKswapd(proc, kernelReserve);
         }
     }
-    return AfterFailure(child);
+    return ReasonForFailure(child);
 }

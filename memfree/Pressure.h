@@ -7,20 +7,20 @@
 
 struct PressureRequest
 {
-    /// Where the file goes; empty for anonymous pressure.
+    /// The directory for the sparse file; empty for anonymous pressure.
     std::string directory;
     std::uint64_t bound = 0;
-    /// The situation that harm is measured against, when it was (monotonic, milliseconds), and the situation
-    /// now.
+    /// The memory at the start of the run, which harm is measured against, and when that was (msNow()).
     const MemoryState *before = nullptr;
-    const MemoryState *first = nullptr;
     std::uint64_t msStarted = 0;
+    /// The memory at the start of this pressure.
+    const MemoryState *pressureStart = nullptr;
     std::function<void(const PressureProgress &)> onProgress;
 };
 
-/// Milliseconds on the clock that is never set.
+/// Milliseconds of the monotonic clock.
 std::uint64_t msNow();
 
-/// Presses in steps until the stopping rule says so, and returns when all of it is given back. Looks at the
-/// proc directory, and at the limits in the cgroup directory, at every step.
-Stop Press(const std::string &proc, const std::string &cgroup, const PressureRequest &request);
+/// Populates pages step by step until a stopping rule applies, and releases them all before it returns. Reads
+/// the proc directory, and for anonymous pressure the limits in the cgroup directory, at every step.
+Stop ApplyPressure(const std::string &proc, const std::string &cgroup, const PressureRequest &request);

@@ -17,17 +17,17 @@
 
 namespace {
 
-/// Short calls, since a kernel may not preempt itself before one ends. With a whole step in one, a program
-/// that wakes up every few milliseconds was in five rounds of thirteen delayed more than twice as much as
-/// usual; so in none of six.
-constexpr std::size_t piece = 64 * bytesPerKiB;
+/// Bytes per madvise(). The calls are short because a kernel may not preempt itself within one. With a whole
+/// step per call, a program that wakes up every few milliseconds was delayed more than twice as much as usual
+/// in five of thirteen rounds; with this size in none of six.
+constexpr std::size_t pieceSize = 64 * bytesPerKiB;
 
-/// Kernels before 5.14 do not know the request; others stop at a page that they cannot get.
 bool PopulatePiece(char *start, std::size_t bytes, bool bFile)
 {
     if (madvise(start, bytes, bFile ? MADV_POPULATE_READ : MADV_POPULATE_WRITE) == 0) {
         return true;
     }
+    // EINVAL: kernels before 5.14 do not know this advice. Any other error means that a page cannot be had.
     if (errno != EINVAL) {
         return false;
     }
@@ -43,37 +43,40 @@ bool PopulatePiece(char *start, std::size_t bytes, bool bFile)
     return true;
 }
 
-bool Populate(char *start, std::size_t bytes, bool bFile)
+bool PopulateStep(char *start, std::size_t bytes, bool bFile)
 {
-    for (std::size_t done = 0; done < bytes; done += piece) {
-        if (!PopulatePiece(start + done, std::min(piece, bytes - done), bFile)) {
+    for (std::size_t done = 0; done < bytes; done += pieceSize) {
+        if (!PopulatePiece(start + done, std::min(pieceSize, bytes - done), bFile)) {
             return false;
         }
     }
     return true;
 }
 
-/// The pages mapped, in bytes: file pages stand third in statm, all pages second.
+/// The mapped file pages or the mapped anonymous pages, in bytes. statm has all resident pages in its second
+/// column and file pages in its third.
 std::uint64_t ResidentBytes(bool bFile)
 {
     std::string statm;
-    unsigned long long total = 0;
-    unsigned long long all = 0;
-    unsigned long long file = 0;
+    unsigned long long totalPages = 0;
+    unsigned long long residentPages = 0;
+    unsigned long long filePages = 0;
     if (!ReadFile("/proc/self/statm", statm) ||
-        sscanf(statm.c_str(), "%llu %llu %llu", &total, &all, &file) != 3) {
+        sscanf(statm.c_str(), "%llu %llu %llu", &totalPages, &residentPages, &filePages) != 3) {
         return 0;
     }
-    return (bFile ? file : all - std::min(all, file)) * static_cast<std::uint64_t>(sysconf(_SC_PAGESIZE));
+    return (bFile ? filePages : residentPages - std::min(residentPages, filePages)) *
+           static_cast<std::uint64_t>(sysconf(_SC_PAGESIZE));
 }
 
-[[noreturn]] void Run(const PressureSource &source, pid_t parent, int requests, int replies)
+[[noreturn]] void RunChild(const PressureSource &source, pid_t parent, int requests, int replies)
 {
     prctl(PR_SET_PDEATHSIG, SIGKILL);
+    // The parent may have died before the prctl().
     if (getppid() != parent) {
         _exit(1);
     }
-    // Raising one's own needs no privilege.
+    // A process may raise its own score without privileges.
     if (const int score = open("/proc/self/oom_score_adj", O_WRONLY | O_CLOEXEC); score >= 0) {
         WriteAll(score, "1000");
         close(score);
@@ -86,19 +89,19 @@ std::uint64_t ResidentBytes(bool bFile)
     if (memory == MAP_FAILED) {
         _exit(1);
     }
-    // Sequential: the kernel does not count these pages as used when it finds them mapped. When everything
-    // older is gone it takes them, and not the pages that other programs use.
+    // With MADV_SEQUENTIAL the kernel does not count these pages as used because they are mapped. When all
+    // older cache is gone, it evicts them rather than the pages that other programs use.
     madvise(memory, source.size, bFile ? MADV_SEQUENTIAL : MADV_HUGEPAGE);
-    const std::uint64_t own = ResidentBytes(bFile);
+    const std::uint64_t residentBefore = ResidentBytes(bFile);
 
-    std::uint64_t pressed = 0;
+    std::uint64_t populated = 0;
     std::uint64_t bytes = 0;
     while (read(requests, &bytes, sizeof bytes) == sizeof bytes) {
         PressureReply reply;
-        bytes = std::min(bytes, source.size - pressed);
-        reply.bDone = Populate(static_cast<char *>(memory) + pressed, bytes, bFile);
-        pressed += bytes;
-        reply.resident = ResidentBytes(bFile) - own;
+        bytes = std::min(bytes, source.size - populated);
+        reply.bPopulated = PopulateStep(static_cast<char *>(memory) + populated, bytes, bFile);
+        populated += bytes;
+        reply.resident = ResidentBytes(bFile) - residentBefore;
         if (write(replies, &reply, sizeof reply) != sizeof reply) {
             break;
         }
@@ -110,27 +113,27 @@ std::uint64_t ResidentBytes(bool bFile)
 
 PressureChild::PressureChild(const PressureSource &source)
 {
-    int there[2];
-    int back[2];
-    if (pipe2(there, O_CLOEXEC) != 0) {
+    int requestPipe[2];
+    int replyPipe[2];
+    if (pipe2(requestPipe, O_CLOEXEC) != 0) {
         return;
     }
-    if (pipe2(back, O_CLOEXEC) != 0) {
-        close(there[0]);
-        close(there[1]);
+    if (pipe2(replyPipe, O_CLOEXEC) != 0) {
+        close(requestPipe[0]);
+        close(requestPipe[1]);
         return;
     }
     const pid_t parent = getpid();
     child = fork();
     if (child == 0) {
-        close(there[1]);
-        close(back[0]);
-        Run(source, parent, there[0], back[1]);
+        close(requestPipe[1]);
+        close(replyPipe[0]);
+        RunChild(source, parent, requestPipe[0], replyPipe[1]);
     }
-    close(there[0]);
-    close(back[1]);
-    requests = there[1];
-    replies = back[0];
+    close(requestPipe[0]);
+    close(replyPipe[1]);
+    requests = requestPipe[1];
+    replies = replyPipe[0];
 }
 
 PressureChild::~PressureChild()
@@ -146,7 +149,7 @@ PressureChild::~PressureChild()
     }
 }
 
-bool PressureChild::Press(std::uint64_t bytes)
+bool PressureChild::Populate(std::uint64_t bytes)
 {
     bGone = write(requests, &bytes, sizeof bytes) != sizeof bytes;
     return !bGone;
@@ -168,7 +171,7 @@ bool PressureChild::WaitForReply(int ms, PressureReply &reply)
 bool PressureChild::Killed() const
 {
     siginfo_t end = {};
-    // Its pipes are closed a moment before it can be waited for.
+    // A dying process closes its pipes shortly before it becomes a zombie, so this waits for the end.
     return bGone && waitid(P_PID, static_cast<id_t>(child), &end, WEXITED | WNOWAIT) == 0 &&
            end.si_code != CLD_EXITED;
 }

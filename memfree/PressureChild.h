@@ -3,41 +3,42 @@
 #include <cstdint>
 #include <sys/types.h>
 
-/// What is pressed with: the pages of a file, or anonymous memory if there is no descriptor.
+/// The pages to populate: those of a file, or anonymous memory without a descriptor.
 struct PressureSource
 {
     int descriptor = -1;
     std::uint64_t size = 0;
 };
 
-/// The answer to one step.
+/// The child's reply to one step.
 struct PressureReply
 {
-    /// Bytes pressed with so far that are still in memory.
+    /// Bytes populated so far that are still resident.
     std::uint64_t resident = 0;
-    bool bDone = false;
+    bool bPopulated = false;
 };
 
-/// A process of its own that holds the memory of the pressure, and presses a step further each time it is
-/// told to. All of it is given back by the end of that process, whatever ends it: it dies with its parent,
-/// and it is the first that the kernel picks should memory run out.
+/// A child process that holds the memory of the pressure and populates more of it on request. Its end
+/// releases all of that memory, whatever the cause. It dies with its parent, and the OOM killer picks it
+/// first.
 class PressureChild
 {
 public:
-    /// Starts it; Started() tells whether that worked.
+    /// Starts the child. Started() tells whether that worked.
     explicit PressureChild(const PressureSource &source);
-    /// Ends it, and returns when its memory is free again.
+    /// Kills the child and waits until its memory is free again.
     ~PressureChild();
     PressureChild(const PressureChild &) = delete;
     PressureChild &operator=(const PressureChild &) = delete;
 
     bool Started() const { return child > 0; }
-    /// Tells it to press that much further; false if it is gone.
-    bool Press(std::uint64_t bytes);
-    /// Waits up to ms for the answer; false if there is none yet. Without bDone the child can do no more, or
-    /// is gone.
+    /// Requests the next step. @return false if the child is gone
+    bool Populate(std::uint64_t bytes);
+    /// Waits up to ms for the reply to a step. @return false on timeout. A reply without bPopulated means
+    /// that the child can populate no more, or is gone.
     bool WaitForReply(int ms, PressureReply &reply);
-    /// Whether it has been killed, as by the kernel when memory ran out. To be asked when it answers no more.
+    /// Whether a signal has killed the child, as the OOM killer does. Valid only after Populate() or
+    /// WaitForReply() found that it is gone.
     bool Killed() const;
 
 private:

@@ -12,21 +12,21 @@
 
 namespace {
 
-// Not in every linux/magic.h.
+// Missing from some versions of linux/magic.h.
 constexpr std::uint32_t xfsMagic = 0x58465342;
 constexpr std::uint32_t bcachefsMagic = 0xca451a4e;
 
-bool IsDiskFileSystem(int descriptor)
+bool IsOnDisk(const std::string &directory)
 {
     constexpr std::uint32_t known[] = {EXT4_SUPER_MAGIC, xfsMagic,      BTRFS_SUPER_MAGIC,
                                        F2FS_SUPER_MAGIC, bcachefsMagic, OVERLAYFS_SUPER_MAGIC};
     struct statfs about = {};
-    return fstatfs(descriptor, &about) == 0 &&
+    return statfs(directory.c_str(), &about) == 0 &&
            std::ranges::find(known, static_cast<std::uint32_t>(about.f_type)) != std::end(known);
 }
 
-/// An overlay tells nothing of what is below it, and a live system's is often in memory: there, reading a
-/// hole takes a block for it.
+/// An overlay does not tell which file system is below it. On a live system that is often in memory, where
+/// reading a hole allocates a block.
 bool KeepsHoles(int descriptor)
 {
     const auto pageBytes = static_cast<std::size_t>(sysconf(_SC_PAGESIZE));
@@ -46,7 +46,7 @@ int OpenUnlinked(const std::string &directory)
     if (descriptor >= 0 || (errno != EOPNOTSUPP && errno != EISDIR && errno != EINVAL)) {
         return descriptor;
     }
-    // Overlays before kernel 6.3.
+    // Overlays support O_TMPFILE only since kernel 6.3.
     std::string path = directory + "/.memfree-XXXXXX";
     const int named = mkostemp(path.data(), O_CLOEXEC);
     if (named >= 0) {
@@ -87,17 +87,12 @@ std::string FindPressureDirectory(const std::vector<std::string> &directories)
 
 int OpenPressureFile(const std::string &directory, std::uint64_t size)
 {
-    // Asked before anything is made there: a directory on the network is not to be touched.
-    const int place = open(directory.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
-    const bool bDisk = place >= 0 && IsDiskFileSystem(place);
-    if (place >= 0) {
-        close(place);
-    }
-    const int descriptor = bDisk ? OpenUnlinked(directory) : -1;
-    const auto pageBytes = static_cast<std::uint64_t>(sysconf(_SC_PAGESIZE));
+    // Checked first, so that nothing is created on a network file system.
+    const int descriptor = IsOnDisk(directory) ? OpenUnlinked(directory) : -1;
     if (descriptor < 0) {
         return -1;
     }
+    const auto pageBytes = static_cast<std::uint64_t>(sysconf(_SC_PAGESIZE));
     if (ftruncate(descriptor, static_cast<off_t>(std::max(size, pageBytes))) == 0 && KeepsHoles(descriptor)) {
         return descriptor;
     }

@@ -4,16 +4,15 @@
 #include <string>
 #include <vector>
 
-/// Where to look for a disk file system, in order, from $XDG_CACHE_HOME and $HOME on. Empty names are left
-/// out.
+/// The directories to search for a disk file system, in order: from $XDG_CACHE_HOME and $HOME to /tmp.
 std::vector<std::string> PressureDirectories();
 
-/// The first directory in which OpenPressureFile() succeeds; empty if there is none.
+/// The first directory where OpenPressureFile() succeeds; empty if there is none.
 std::string FindPressureDirectory(const std::vector<std::string> &directories);
 
-/// A new file of that size without a name and without a block on the disk: it is gone with its last
-/// descriptor, however we end. Only where the pages of a hole are mere page cache, that is on a disk file
-/// system: on one in memory they would be memory that nobody can take back, on the network or in user space
-/// somebody else's work.
-/// @return its descriptor, or -1
+/// Makes a sparse file of the given size without a name and without disk blocks. It vanishes with its last
+/// descriptor, however the process ends. Only on a disk file system, where the pages of a hole are plain page
+/// cache. In a memory file system the kernel could not take them back; on a network or user-space file system
+/// they would be work for a server.
+/// @return the descriptor, or -1
 int OpenPressureFile(const std::string &directory, std::uint64_t size);

@@ -7,7 +7,7 @@
 #include <string>
 #include <unistd.h>
 
-/// A bar on standard error while something lasts, only if that is a terminal. It is wiped out at the end.
+/// A progress bar on standard error. Shown only on a terminal, erased by the destructor.
 class ProgressBar
 {
 public:

@@ -12,6 +12,15 @@ std::uint64_t Growth(std::uint64_t before, std::uint64_t now)
     return now - std::min(before, now);
 }
 
+/// How much of the inactive file cache from the start of the run is left: all file cache, less what was
+/// active then, less the pressure's own pages. These can be on either of the kernel's two lists.
+std::uint64_t InactiveLeft(const MemoryState &before, const MemoryState &now,
+                           const PressureProgress &progress)
+{
+    const std::uint64_t own = progress.bFileCache ? progress.resident : 0;
+    return Growth(own + before.activeFile, now.activeFile + now.inactiveFile);
+}
+
 } // namespace
 
 std::uint64_t MemoryReserve(std::uint64_t total)
@@ -19,7 +28,7 @@ std::uint64_t MemoryReserve(std::uint64_t total)
     return std::max(total / 20, 256 * bytesPerMiB);
 }
 
-std::uint64_t WorthFreeing(std::uint64_t total)
+std::uint64_t MinWorthFreeing(std::uint64_t total)
 {
     return std::max(total / 256, 16 * bytesPerMiB);
 }
@@ -32,18 +41,18 @@ Stop CheckHarm(const MemoryState &before, const MemoryState &now, std::uint64_t 
     if (now.available < MemoryReserve(now.total)) {
         return Stop::ShortOfMemory;
     }
-    // Others swap too, but a run that coincides with it had better end.
+    // Other programs can cause swapping too, but even then the run should end.
     if (Growth(before.swapUsed, now.swapUsed) > bytesPerMiB) {
         return Stop::Swapping;
     }
-    // Below 1 % of what is in use, so that a bystander that reads its file all the time notices nothing; some
-    // of it is always read again on a machine at work.
+    // At most 1 % of the cache in use, so that a program that keeps reading its file notices nothing. A busy
+    // machine always has some refaults.
     const std::uint64_t refaultsAllowed = std::max(before.activeFile / 100, now.total / 2048);
     if (Growth(before.refaulted, now.refaulted) > refaultsAllowed) {
         return Stop::EvictingInUse;
     }
-    // On a machine that is otherwise idle our own wait for the kernel counts as everybody's: up to 28 % of
-    // the time on a slow one (emulated, 2 GiB), 5 % on a fast one.
+    // On an otherwise idle machine the helper's own wait for memory counts as a stall of all tasks: up to 28
+    // % of the time on a slow machine (emulated, 2 GiB), 5 % on a fast one.
     const std::uint64_t usAllowed = 200'000 + msElapsed * 1000 / 3;
     if (Growth(before.usStalled, now.usStalled) > usAllowed) {
         return Stop::Stalling;
@@ -51,62 +60,58 @@ Stop CheckHarm(const MemoryState &before, const MemoryState &now, std::uint64_t 
     return Stop::None;
 }
 
-bool OwnPagesTaken::Mostly(const PressureProgress &progress)
+bool SelfEviction::Dominates(const PressureProgress &progress)
 {
     const std::uint64_t window = std::max(progress.bound / 32, 64 * bytesPerMiB);
-    const std::uint64_t pressed = progress.pressed - pressedBefore;
-    if (pressed < window) {
+    const std::uint64_t populated = progress.populated - populatedBefore;
+    if (populated < window) {
         return false;
     }
-    const std::uint64_t taken = Growth(progress.resident, progress.pressed);
-    const bool bMostly = Growth(takenBefore, taken) > pressed / 2;
-    pressedBefore = progress.pressed;
-    takenBefore = taken;
-    return bMostly;
+    const std::uint64_t evicted = Growth(progress.resident, progress.populated);
+    const bool bDominates = Growth(evictedBefore, evicted) > populated / 2;
+    populatedBefore = progress.populated;
+    evictedBefore = evicted;
+    return bDominates;
 }
 
-std::uint64_t InactiveLeft(const MemoryState &before, const MemoryState &now,
-                           const PressureProgress &progress)
-{
-    const std::uint64_t own = progress.bFileCache ? progress.resident : 0;
-    return Growth(own + before.activeFile, now.activeFile + now.inactiveFile);
-}
-
-Stop CheckPressure(const MemoryState &before, const MemoryState &first, const MemoryState &now,
+Stop CheckPressure(const MemoryState &before, const MemoryState &pressureStart, const MemoryState &now,
                    const PressureProgress &progress)
 {
     if (const Stop harm = CheckHarm(before, now, progress.msElapsed); harm != Stop::None) {
         return harm;
     }
-    const std::uint64_t ownTaken = progress.bFileCache ? Growth(progress.resident, progress.pressed) : 0;
-    const std::uint64_t taken = Growth(ownTaken, Growth(first.fileReclaimed, now.fileReclaimed));
-    if (taken >= first.inactiveFile || InactiveLeft(before, now, progress) < WorthFreeing(now.total) / 4) {
+    const std::uint64_t ownReclaimed =
+        progress.bFileCache ? Growth(progress.resident, progress.populated) : 0;
+    const std::uint64_t reclaimed =
+        Growth(ownReclaimed, Growth(pressureStart.fileReclaimed, now.fileReclaimed));
+    if (reclaimed >= pressureStart.inactiveFile ||
+        InactiveLeft(before, now, progress) < MinWorthFreeing(now.total) / 4) {
         return Stop::NothingLeft;
     }
-    return progress.resident >= progress.bound ? Stop::Bound : Stop::None;
+    return progress.resident >= progress.bound ? Stop::BoundReached : Stop::None;
 }
 
 const char *Describe(Stop stop)
 {
     switch (stop) {
     case Stop::ShortOfMemory:
-        return "available memory came down to the reserve";
+        return "available memory fell to the reserve";
     case Stop::Swapping:
-        return "swap in use grew";
+        return "swap use grew";
     case Stop::Stalling:
         return "programs had to wait for memory";
     case Stop::EvictingInUse:
         return "cache in use was being evicted";
     case Stop::Deadline:
         return "it took too long";
-    case Stop::NobodyWaits:
-        return "nobody waits for it";
+    case Stop::ReaderGone:
+        return "nobody reads the result";
     case Stop::Failed:
         return "the system refused more";
     case Stop::None:
     case Stop::NothingLeft:
-    case Stop::Bound:
-    case Stop::TakingOwn:
+    case Stop::BoundReached:
+    case Stop::EvictingOwn:
         break;
     }
     return nullptr;

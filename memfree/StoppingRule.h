@@ -4,80 +4,76 @@
 
 struct MemoryState;
 
-/// Why reclaiming went no further.
+/// Why freeing memory ended.
 enum class Stop
 {
     None,
-    /// Nothing inactive is left, or only what came to life meanwhile.
+    /// No inactive cache is left, or only cache that appeared during the run.
     NothingLeft,
-    /// As much pressure as was allowed: the byte count that was asked for, or a control group's limit.
-    Bound,
-    /// The kernel takes more of our own pages than of the old ones.
-    TakingOwn,
-    /// The rest is harm: each of these means that more would be taken from somebody who uses it.
+    /// Pressure reached its bound: the byte count asked for, or a cgroup's limit.
+    BoundReached,
+    /// The kernel evicts more of the pressure's own pages than of the old cache.
+    EvictingOwn,
+    // Going on would harm other programs: it would take memory that they use.
     ShortOfMemory,
     Swapping,
     Stalling,
     EvictingInUse,
-    /// It takes too long.
     Deadline,
-    /// Whoever asked for it is gone.
-    NobodyWaits,
-    /// A system call said no.
+    /// The calling program is gone, so nobody reads the result.
+    ReaderGone,
+    /// A system call failed.
     Failed
 };
 
-/// What the pressure has come to so far, in bytes.
+/// How far the pressure has come, in bytes.
 struct PressureProgress
 {
-    /// Pressed in all, and of these still in memory: the kernel takes our own pages too.
-    std::uint64_t pressed = 0;
+    /// Populated since the start, and how much of it is still resident: the kernel evicts these pages too.
+    std::uint64_t populated = 0;
     std::uint64_t resident = 0;
-    /// Whether the pages are file cache, and so counted as such.
+    /// Whether the pages are file cache, which the kernel's figures then include.
     bool bFileCache = false;
-    /// Of resident.
+    /// The upper bound for resident.
     std::uint64_t bound = 0;
     std::uint64_t msElapsed = 0;
 };
 
-/// Tells when pressing takes hardly anything but our own pages any more. Some of them are taken all the time
-/// where control groups are in use, since the kernel takes from each in proportion to its size.
-class OwnPagesTaken
+/// Detects when pressure evicts mainly its own pages. Some of them are always evicted on a machine with
+/// cgroups, because the kernel reclaims from each cgroup in proportion to its size.
+class SelfEviction
 {
 public:
-    /// True if more than half of what was pressed since some time ago has cost pages of our own.
-    bool Mostly(const PressureProgress &progress);
+    /// Whether more than half of the pages populated in the last window evicted pages of our own. False until
+    /// the window is full.
+    bool Dominates(const PressureProgress &progress);
 
 private:
-    std::uint64_t pressedBefore = 0;
-    std::uint64_t takenBefore = 0;
+    std::uint64_t populatedBefore = 0;
+    std::uint64_t evictedBefore = 0;
 };
 
-/// What is kept available to everyone: 5 % of the memory, 256 MiB at least.
+/// What always stays available to other programs: 5 % of the memory, at least 256 MiB.
 std::uint64_t MemoryReserve(std::uint64_t total);
 
-/// Less inactive memory than this is not worth a run, nor a further step: what an idle desktop reads again at
-/// once.
-std::uint64_t WorthFreeing(std::uint64_t total);
+/// The smallest amount of inactive memory that is worth a run or another method. An idle desktop reads less
+/// than this again at once.
+std::uint64_t MinWorthFreeing(std::uint64_t total);
 
-/// How long all of it may take, in milliseconds: below the 50 s after which whoever asked gives us up.
+/// How long a run may take, in milliseconds. The application aborts it after 50 s.
 constexpr std::uint64_t msDeadline = 40'000;
 
-/// What holds for every way of reclaiming: whether somebody is being harmed, or the time is over.
+/// The stopping rules of every method: other programs are harmed, or the deadline has passed.
+/// @param before  at the start of the run
 Stop CheckHarm(const MemoryState &before, const MemoryState &now, std::uint64_t msElapsed);
 
-/// How much of the inactive file cache that there was before is left. The pressure's own pages may stand on
-/// either of the kernel's lists, so what counts is all file cache less our own and less what was active
-/// before.
-std::uint64_t InactiveLeft(const MemoryState &before, const MemoryState &now,
-                           const PressureProgress &progress);
-
-/// CheckHarm() for pressure, with its own ends: the bound, and nothing left to press out. Where others fill
-/// the cache meanwhile that never comes, so as much as was inactive at first is all that is taken.
-/// @param before  when the run began
-/// @param first   when this pressure began, after other ways
-Stop CheckPressure(const MemoryState &before, const MemoryState &first, const MemoryState &now,
+/// CheckHarm(), and the stopping rules of pressure: the bound is reached, or nothing inactive is left. Other
+/// programs that fill the cache meanwhile would keep the latter from happening, so pressure also ends when it
+/// has reclaimed as much as was inactive when it began.
+/// @param before         at the start of the run
+/// @param pressureStart  at the start of this pressure, after other methods
+Stop CheckPressure(const MemoryState &before, const MemoryState &pressureStart, const MemoryState &now,
                    const PressureProgress &progress);
 
-/// For people, as in "stopped: ..."; nullptr where the end needs no explanation.
+/// For users, as in "stopped: ..."; nullptr for an end that needs no explanation.
 const char *Describe(Stop stop);

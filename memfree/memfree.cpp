@@ -1,4 +1,4 @@
-// memfree: frees inactive memory, as much as can be had without harm.
+// memfree: frees inactive memory, as much as is possible without harm to other programs.
 #include "memfree/Files.h"
 #include "memfree/FreeMemory.h"
 
@@ -19,16 +19,17 @@ enum ExitStatus
 
 constexpr std::string_view help =
     "usage: memfree [--dry-run] BYTES\n"
-    "Frees inactive memory (file cache not used lately) until BYTES are free or it would do harm.\n"
-    "BYTES is an upper bound, decimal: what is free now plus what is to be freed.\n"
+    "Frees inactive memory (file cache that was not used recently) until BYTES are free\n"
+    "or until it would harm other programs.\n"
+    "BYTES is a decimal upper bound: the memory free now plus the memory to be freed.\n"
     "\n"
     "  -n, --dry-run  say what would be done and why, and do nothing\n"
-    "  -h, --help     this text\n"
+    "  -h, --help     show this text\n"
     "\n"
-    "At the end one line says what was freed, by what means and in how long.\n"
+    "The last line says how much was freed, by which method and in what time.\n"
     "Exit status: 0 done or nothing to do, 1 could not, 2 bad usage.\n";
 
-/// A byte count as it is given on the command line: decimal digits only, more than zero, within 63 bits.
+/// Parses the argument: decimal digits only, more than zero, within 63 bits.
 std::optional<std::uint64_t> ParseByteCount(std::string_view text)
 {
     std::int64_t number = 0;
@@ -45,12 +46,12 @@ int Fail(const std::string &why, ExitStatus status)
     return status;
 }
 
-/// A reader that is gone is no failure: the memory is free all the same.
-int Tell(const Outcome &outcome)
+int Report(const Outcome &outcome)
 {
     if (outcome.bFailed) {
         return Fail(outcome.text, CouldNot);
     }
+    // Not an error if nobody reads it: the memory is free all the same.
     WriteAll(STDOUT_FILENO, outcome.text + "\n");
     return Done;
 }
@@ -59,9 +60,10 @@ int Tell(const Outcome &outcome)
 
 int main(int argc, char *argv[])
 {
-    // SIGTERM and its like may end us as they are: all that is held is held by processes, and goes with them.
+    // SIGTERM and the like keep their default action: processes hold all the memory, and their end releases
+    // it.
     std::signal(SIGPIPE, SIG_IGN);
-    // A limit on file sizes is one more way to be refused.
+    // Beyond a file size limit ftruncate() then fails with an error.
     std::signal(SIGXFSZ, SIG_IGN);
 
     bool bDryRun = false;
@@ -89,5 +91,5 @@ int main(int argc, char *argv[])
     if (!bytes) {
         return Fail("not a byte count: \"" + std::string(count) + "\"", BadArguments);
     }
-    return Tell(bDryRun ? PlanMemory(*bytes) : FreeMemory(*bytes));
+    return Report(bDryRun ? DryRun(*bytes) : FreeMemory(*bytes));
 }

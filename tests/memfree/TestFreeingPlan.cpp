@@ -37,32 +37,32 @@ class TestFreeingPlan : public QObject
 private slots:
     void Ladder()
     {
-        const auto plan = [](const Changes &changes, Means lastTried = Means::Nothing) {
+        const auto plan = [](const Changes &changes, Method lastTried = Method::None) {
             Situation situation = Desktop();
             for (const auto &change : changes) {
                 change(situation);
             }
             const Decision decision = Decide(situation, lastTried);
-            return decision.means == Means::Nothing
+            return decision.method == Method::None
                        ? decision.reason
-                       : Name(decision.means) + (' ' + std::to_string(decision.bound / MiB));
+                       : MethodName(decision.method) + (' ' + std::to_string(decision.bound / MiB));
         };
         const auto root = [](Situation &s) { s.bMayDropCaches = true; };
         const auto groups = [](Situation &s) { s.inactiveInCgroups = GiB; };
         const auto emptyGroups = [](Situation &s) { s.inactiveInCgroups = MiB; };
         const auto swap = [](Situation &s) { s.memory.swapFree = 1; };
-        const auto swapless = [](Situation &s) { s.bCgroupsWithoutSwap = true; };
+        const auto swapless = [](Situation &s) { s.bCgroupReclaimWithoutSwap = true; };
         const auto noDisk = [](Situation &s) { s.pressureDirectory.clear(); };
         const auto asked = [](std::uint64_t n) { return [n](Situation &s) { s.asked = n; }; };
         const auto free = [](std::uint64_t n) { return [n](Situation &s) { s.memory.free = n; }; };
         const auto available = [](std::uint64_t n) { return [n](Situation &s) { s.memory.available = n; }; };
         const auto idle = [](std::uint64_t n) { return [n](Situation &s) { s.memory.inactiveFile = n; }; };
-        const auto room = [](const CgroupRoom &r) { return [r](Situation &s) { s.room = r; }; };
+        const auto room = [](const CgroupHeadroom &r) { return [r](Situation &s) { s.cgroup = r; }; };
 
         QCOMPARE(plan({root}), "dropping the page cache 0");
-        QCOMPARE(plan({root}, Means::DropCaches), "page-cache pressure 6176"); // refused
+        QCOMPARE(plan({root}, Method::DropCaches), "page-cache pressure 6176"); // refused
         QCOMPARE(plan({groups}), "control group reclaim 0");
-        QCOMPARE(plan({groups}, Means::CgroupReclaim), "page-cache pressure 6176");
+        QCOMPARE(plan({groups}, Method::CgroupReclaim), "page-cache pressure 6176");
         QCOMPARE(plan({groups, swap}), "page-cache pressure 6176");
         QCOMPARE(plan({groups, swap, swapless}), "control group reclaim 0");
         QCOMPARE(plan({emptyGroups}), "page-cache pressure 6176");
@@ -72,9 +72,9 @@ private slots:
         // Unlike cache this cannot be taken back: it leaves a reserve, and in a group as well.
         QCOMPARE(plan({noDisk}), "anonymous pressure 5734");
         QCOMPARE(plan({noDisk, room({3 * GiB, 4 * GiB})}), "anonymous pressure 2816");
-        QCOMPARE(plan({}, Means::PageCachePressure), "anonymous pressure 5734");
+        QCOMPARE(plan({}, Method::PageCachePressure), "anonymous pressure 5734");
 
-        QCOMPARE(plan({}, Means::AnonymousPressure), "all ways have been tried");
+        QCOMPARE(plan({}, Method::AnonymousPressure), "all methods have been tried");
         QCOMPARE(plan({asked(2 * GiB)}), "2.00 GiB are free already");
         QCOMPARE(plan({idle(31 * MiB), root}), "only 31.0 MiB are inactive");
         QCOMPARE(plan({idle(79 * MiB), free(5 * GiB)}), "only 79.0 MiB are inactive beside 5.00 GiB free");
@@ -131,15 +131,15 @@ private slots:
         const std::uint64_t inactive = Desktop().memory.inactiveFile;
         QCOMPARE(stop(taken(inactive + 99 * MiB)), Stop::None);
         QCOMPARE(stop(taken(inactive + 100 * MiB)), Stop::NothingLeft);
-        QCOMPARE(stop([](auto &, auto &progress) { progress.bound = GiB; }), Stop::Bound);
+        QCOMPARE(stop([](auto &, auto &progress) { progress.bound = GiB; }), Stop::BoundReached);
     }
 
     void OwnPages()
     {
-        OwnPagesTaken taken;
+        SelfEviction taken;
         // Bound 4 GiB: a window of 128 MiB.
         const auto mostly = [&taken](std::uint64_t pressedMiB, std::uint64_t residentMiB) {
-            return taken.Mostly({pressedMiB * MiB, residentMiB * MiB, true, 4 * GiB, 0});
+            return taken.Dominates({pressedMiB * MiB, residentMiB * MiB, true, 4 * GiB, 0});
         };
         QVERIFY(!mostly(1000, 1000));
         QVERIFY(!mostly(1200, 1100)); // half of what is pressed costs our own, no more

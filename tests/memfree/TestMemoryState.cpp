@@ -24,7 +24,7 @@ std::uint64_t RoomIn(const QByteArray &self, const QList<QByteArrayList> &files)
     for (const QByteArrayList &file : files) {
         tree.Write("cgroup/" + file[0], file[1]);
     }
-    return ReadCgroupRoom(tree.Path("proc"), tree.Path("cgroup")).room;
+    return ReadCgroupHeadroom(tree.Path("proc"), tree.Path("cgroup")).headroom;
 }
 
 } // namespace
@@ -96,7 +96,7 @@ private slots:
     void CgroupLimits()
     {
         const QByteArray self = "0::/a/b:1\n";
-        QCOMPARE(RoomIn(self, Group("a/b:1", "max\n", "max\n")), CgroupRoom::unlimited);
+        QCOMPARE(RoomIn(self, Group("a/b:1", "max\n", "max\n")), CgroupHeadroom::unlimited);
         QCOMPARE(RoomIn(self, Group("a/b:1", "1000\n", "500\n")), 100ULL);
         QCOMPARE(RoomIn(self, Group("a/b:1", "300\n", "max\n")), 0ULL); // used up
         QCOMPARE(RoomIn(self, Group("a", "1000", "max") + Group("a/b:1", "450", "max")), 50ULL);

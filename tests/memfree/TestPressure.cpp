@@ -77,12 +77,12 @@ private slots:
             const auto look = [&last](const PressureProgress &now) {
                 last = now;
                 // Some pages may be taken at once on a machine that is short of memory.
-                QVERIFY(now.resident > now.pressed / 2);
-                QVERIFY(now.resident < now.pressed + 4 * bytesPerMiB);
+                QVERIFY(now.resident > now.populated / 2);
+                QVERIFY(now.resident < now.populated + 4 * bytesPerMiB);
             };
-            QCOMPARE(PressWith(directory, 40 * bytesPerMiB, look), Stop::Bound);
+            QCOMPARE(PressWith(directory, 40 * bytesPerMiB, look), Stop::BoundReached);
             QVERIFY(last.resident >= 40 * bytesPerMiB);
-            QVERIFY(last.pressed <= 44 * bytesPerMiB);
+            QVERIFY(last.populated <= 44 * bytesPerMiB);
         }
     }
 
@@ -129,7 +129,7 @@ private slots:
         ::dup2(output, STDOUT_FILENO);
         ::close(output);
         ::close(ends[1]);
-        QCOMPARE(stop, Stop::NobodyWaits);
+        QCOMPARE(stop, Stop::ReaderGone);
         QVERIFY(steps <= 1);
     }
 
@@ -144,7 +144,7 @@ private slots:
             const pid_t presser = ::fork();
             if (presser == 0) {
                 while (PressWith(directory, 64 * bytesPerMiB, [](const PressureProgress &) {}) ==
-                       Stop::Bound) {
+                       Stop::BoundReached) {
                 }
                 ::_exit(1);
             }
@@ -189,10 +189,10 @@ private:
         request.directory = directory;
         request.bound = bound;
         request.before = &before;
-        request.first = &before;
+        request.pressureStart = &before;
         request.msStarted = msNow();
         request.onProgress = onProgress;
-        return Press(proc.Path(), proc.Path("cgroup"), request);
+        return ApplyPressure(proc.Path(), proc.Path("cgroup"), request);
     }
 
     TemporaryTree proc;
