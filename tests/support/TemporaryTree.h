@@ -4,11 +4,11 @@
 #include <QFile>
 #include <QTemporaryDir>
 
-/// A directory of files made for a test, such as a proc directory that says what the test needs.
+/// A temporary directory with files for a test, for example a proc directory with chosen figures.
 class TemporaryTree
 {
 public:
-    /// Writes a file and the directories above it.
+    /// Writes a file and makes the directories above it.
     void Write(const QString &path, const QByteArray &content) const
     {
         const QString file = directory.filePath(path);
