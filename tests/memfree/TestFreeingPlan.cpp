@@ -89,7 +89,7 @@ private slots:
         // The GiB that is inactive is the pressure's own, unless its pages are on the active list.
         QCOMPARE(StopAfter([](auto &now, auto &) { now.inactiveFile = GiB; }), Stop::NothingLeft);
         QCOMPARE(StopAfter([](auto &now, auto &) { now.activeFile += now.inactiveFile = GiB; }), Stop::None);
-        // Other programs fill the cache as fast as it is reclaimed: the end is 4 GiB, our own pages aside.
+        // Other programs refill the cache: pressure ends after 4 GiB, not counting its own pages.
         QCOMPARE(StopAfter([](auto &now, auto &) { now.fileReclaimed = 5 * GiB - 1; }), Stop::None);
         QCOMPARE(StopAfter([](auto &now, auto &) { now.fileReclaimed = 5 * GiB; }), Stop::NothingLeft);
         QCOMPARE(StopAfter([](auto &now, auto &p) { now.fileReclaimed = 5 * GiB, p.resident = 0; }),
