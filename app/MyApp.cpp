@@ -5,14 +5,12 @@
 #include "dialogs/DialogPreferences.h"
 #include "dialogs/DialogReminder.h"
 #include "mainwindow/MainDialog.h"
-#include "platform/StartUpMemory.h"
-#include "platform/SuddenExit.h"
 
 #include <QAction>
 #include <QEvent>
 #include <QIcon>
-#include <QTimer>
 
+#include <cstdlib>
 #include <utility>
 
 MyApp::MyApp(int &argc, char **argv) : QtSingleApplication(argc, argv, true)
@@ -27,19 +25,16 @@ MyApp::MyApp(int &argc, char **argv) : QtSingleApplication(argc, argv, true)
 
 MyApp::~MyApp()
 {
-    // Unconditional: a copy that only handed its message over stores an empty record here, and the running
-    // copy's own end puts the full one back.
+    // Deliberately unconditional: a copy that only delivered its message stores an empty record, and the
+    // running copy puts the full one back at its end.
     SaveSettings(settings);
     delete dialogPreferences;
-    // At the end of a session the display often goes just now: until the window has stored its own state,
-    // such an end still waits for this one.
     delete std::exchange(mainDialog, nullptr);
-    CallBeforeSuddenExit(nullptr, {});
     delete dialogAbout;
     delete dialogReminder;
 }
 
-void MyApp::Save()
+void MyApp::SaveAll()
 {
     SaveSettings(settings);
     if (mainDialog) {
@@ -51,7 +46,7 @@ void MyApp::InitializeWidgets()
 {
     setWindowIcon(QIcon(QStringLiteral(":/app96.png")));
 
-    // All four say "Free:" until the first sample, a moment later, gives each its own text.
+    // Deliberately the same text for all four, until the first sample a moment later.
     const auto createEntry = [this](const QColor &color) {
         return new QAction(CreateColorIcon(color), tr("Free:"), this);
     };
@@ -81,14 +76,17 @@ void MyApp::InitializeWidgets()
     connect(dialogReminder, SIGNAL(rejected()), this, SLOT(OnRemindRejected()));
 
     settings = LoadSettings();
-    CallBeforeSuddenExit(this, [this] { Save(); });
+    std::atexit([] {
+        // Null after the controller's destructor.
+        if (auto *app = qobject_cast<MyApp *>(QCoreApplication::instance())) {
+            app->SaveAll();
+        }
+    });
     SetStyle(settings[QStringLiteral("WindowStyle")].toInt());
     dialogPreferences->SetSettings(settings);
     OnSettingChanged();
 
     InitializeTrayIcon();
-    // By then the icon is in its tray, and the first timed sample is taken.
-    QTimer::singleShot(3000, this, [] { ReleaseStartUpCode(); });
 }
 
 void MyApp::OnShowMainDialog()
@@ -106,12 +104,12 @@ void MyApp::OnFreeMemory()
 
 void MyApp::OnPreferences()
 {
-    dialogPreferences->StandClearOf(mainDialog);
+    dialogPreferences->PlaceBeside(mainDialog);
     dialogPreferences->setVisible(true);
     dialogPreferences->raise();
 }
 
-// NOLINTNEXTLINE(performance-unnecessary-value-param): the slot's signature, and one message in a while
+// NOLINTNEXTLINE(performance-unnecessary-value-param): the slot's given signature
 void MyApp::OnMessageReceived(QString)
 {
     if (mainDialog) {
@@ -121,7 +119,7 @@ void MyApp::OnMessageReceived(QString)
 
 bool MyApp::event(QEvent *event)
 {
-    // How a session asks the program to end: nothing else would, since it outlives its last window.
+    // A session's request to quit. The program outlives its last window, so nothing else would end it.
     if (event->type() == QEvent::Close) {
         quit();
     }

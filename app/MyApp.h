@@ -1,9 +1,11 @@
 #pragma once
 
+#include "figures/PieSlices.h"
 #include "platform/QtSingleApplication.h"
-#include "stats/PieSlices.h"
 
 #include <QVariantMap>
+
+#include <optional>
 
 class DialogAbout;
 class DialogPreferences;
@@ -14,24 +16,23 @@ class QMenu;
 class QSystemTrayIcon;
 class TrayHost;
 
-/// The controller and application object: owns the status icon with its menu, every window and the settings
-/// record, gets every sample from the main window and answers the user's choices.
+/// The controller and application object: owns the status icon with its menu, the windows and the settings
+/// record, receives every sample from the main window and handles the user's choices.
 class MyApp : public QtSingleApplication
 {
     Q_OBJECT
 
 public:
     MyApp(int &argc, char **argv);
-    /// Saves the settings record, whatever state the controller is in, and deletes the windows.
+    /// Saves the settings record, in whatever state the controller is, and deletes the windows.
     ~MyApp() override;
 
-    /// Builds everything that is visible; for the copy that runs.
+    /// Builds everything that is visible, in the running copy.
     void InitializeWidgets();
-    /// Shows a sample in the menu and the status icon, then applies the reminder rule to it. The main window
-    /// calls it for every sample, also before the status icon exists.
+    /// Shows a sample in the menu and the status icon, then applies the reminder rule. The main window calls
+    /// it for every sample, also before menu and icon exist.
     void UpdateMenu(const QMap<QString, QVariant> &stats);
-    /// Applies the light (0) or the dark style sheet to the whole application, and the style to the main
-    /// window.
+    /// Applies the light (0) or the dark style sheet to the application, and the style to the main window.
     void SetStyle(int style);
     /// A 16 x 16 swatch for a line of figures in the menu.
     static QIcon CreateColorIcon(const QColor &color);
@@ -50,8 +51,8 @@ protected:
     bool event(QEvent *event) override;
 
 private:
-    /// Saves what the end of the program would, for an end that comes without a destructor.
-    void Save();
+    /// Saves everything, for an end without destructors: Qt calls exit() when the X server has gone.
+    void SaveAll();
     void InitializeTrayIcon();
     void ShowTrayIcon(QMenu *menu);
     void SetPlainIcon();
@@ -70,8 +71,8 @@ private:
     bool bRemindSuppressed = false;
     QVariantMap settings;
 
-    /// What the status icon shows, so that a sample that would look the same sets nothing; empty: the plain
-    /// icon.
+    /// The pie that the status icon shows, so that it is not set to one that looks the same; nothing: the
+    /// plain icon.
     struct PieIcon
     {
         PieSlices slices;

@@ -2,6 +2,8 @@
 
 #include <QSettings>
 
+#include <algorithm>
+
 namespace {
 
 const QString settingsKey = QStringLiteral("Application/Settings");
@@ -37,7 +39,11 @@ QVariantMap LoadSettings()
 void SaveSettings(const QVariantMap &record)
 {
     QSettings settings;
-    if (!settings.contains(settingsKey) || settings.value(settingsKey).toMap() != record) {
+    const QVariant stored = settings.value(settingsKey);
+    const QVariantMap old = stored.toMap();
+    const auto sameType = [](const QVariant &a, const QVariant &b) { return a.metaType() == b.metaType(); };
+    if (stored.metaType() != QMetaType::fromType<QVariantMap>() || old != record ||
+        !std::equal(old.begin(), old.end(), record.begin(), sameType)) {
         settings.setValue(settingsKey, record);
     }
 }
@@ -54,4 +60,12 @@ Qt::WindowFlags MainWindowFlags(const QVariantMap &record)
     flags.setFlag(Qt::WindowStaysOnTopHint, Flag(record, "StayOnTop"));
     flags.setFlag(Qt::FramelessWindowHint, Flag(record, "NoTitleBar"));
     return flags;
+}
+
+bool IsReminderDue(const QVariantMap &record, const QVariantMap &stats)
+{
+    const auto inactive = static_cast<double>(stats.value(QStringLiteral("Inactive")).toLongLong());
+    const double limit =
+        record.value(QStringLiteral("RemindThreshold")).toDouble() * 1024.0 * 1024.0 * 1024.0;
+    return Flag(record, "Remind") && inactive > limit;
 }

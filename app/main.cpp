@@ -1,12 +1,12 @@
 #include "app/MyApp.h"
-#include "platform/BundledResources.h"
+#include "platform/Global.h"
 #include "platform/QuitOnSignal.h"
 
 #include <QLocale>
 #include <QTranslator>
 
-/// Discards every diagnostic of Qt and of our own, in every build: a program that sits in the panel for
-/// months must not fill a session's log.
+/// Deliberately discards every diagnostic, in every build: a program that runs in the panel for months must
+/// not fill the session's log.
 static void myMessageOutput(QtMsgType, const QMessageLogContext &, const QString &) {}
 
 int main(int argc, char *argv[])
@@ -24,7 +24,7 @@ int main(int argc, char *argv[])
 
     MyApp app(argc, argv);
 
-    // A catalogue that is not there leaves the texts untranslated.
+    // Without a catalogue the texts stay untranslated.
     const QString directory = Global::BundledResourcesDirectory();
     const QString locale = QLocale::system().name();
     QTranslator qtTranslator;
@@ -37,12 +37,12 @@ int main(int argc, char *argv[])
     if (app.isRunning()) {
         return app.sendMessage(message, 5000) ? 0 : 1;
     }
-    // A sole "-q" asks for no copy at all; only where one runs already is it a message like any other, and
-    // shows its window.
+    // Deliberate: a sole "-q" starts nothing. To a running copy it is a message like any other, and shows its
+    // window.
     if (message == QLatin1String("-q")) {
         return 0;
     }
-    new QuitOnSignal(&app); // its child, so that the last saving is covered too
+    new QuitOnSignal(&app); // a child, to be there while the destructor saves
     app.InitializeWidgets();
     return QApplication::exec();
 }

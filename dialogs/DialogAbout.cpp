@@ -1,6 +1,5 @@
 #include "dialogs/DialogAbout.h"
 
-#include "dialogs/Links.h"
 #include "platform/Global.h"
 #include "ui_DialogAbout.h"
 
@@ -17,8 +16,8 @@ DialogAbout::DialogAbout(QWidget *parent) : QDialog(parent), ui(new Ui_DialogAbo
     setWindowTitle(tr("About") + ' ' + name);
     ui->labelAppTitle->setText(name);
     ui->labelVersion->setText(tr("version %1").arg(Global::VersionString));
-    // The form holds the wording, Links the address. Dark desktops tend to leave links in a light one's blue.
-    QString maker = ui->label_4->text().arg(Links::MakerPage().toString());
+    // Dark desktops tend to leave links in the blue of a light one.
+    QString maker = ui->label_4->text().arg(QStringLiteral("https://orvanta.example/"));
     if (qAbs(qGray(palette().link().color().rgb()) - qGray(palette().window().color().rgb())) < 100) {
         maker.replace("<a ", "<a style=\"color:" + palette().windowText().color().name() + "\" ");
     }
@@ -35,9 +34,14 @@ void DialogAbout::Show()
     setVisible(true);
 }
 
+QUrl DialogAbout::ReviewPage()
+{
+    return QUrl(QStringLiteral("https://store.orvanta.example/kelvo?view=reviews"));
+}
+
 void DialogAbout::OnFeedback()
 {
-    QDesktopServices::openUrl(Links::ReviewPage());
+    QDesktopServices::openUrl(ReviewPage());
     hide();
 }
 

@@ -1,10 +1,11 @@
 #pragma once
 
 #include <QDialog>
+#include <QUrl>
 
 class Ui_DialogAbout;
 
-/// Icon, name, version, maker, and the way to the review page.
+/// Icon, name, version and maker, and a button that opens the review page.
 class DialogAbout : public QDialog
 {
     Q_OBJECT
@@ -14,6 +15,9 @@ public:
     ~DialogAbout() override;
 
     void Show();
+
+    /// The store page on which a user leaves a review.
+    static QUrl ReviewPage();
 
 public slots:
     void OnFeedback();

@@ -10,8 +10,8 @@ DialogPreferences::DialogPreferences(QWidget *parent)
 {
     ui->setupUi(this);
 
-    // A change of style toggles both radio buttons and so is announced twice; the receiver rereads everything
-    // anyway.
+    // Deliberately both radio buttons: a change of style is announced twice, and the receiver rereads
+    // everything each time.
     connect(ui->checkBoxAutoHide, SIGNAL(toggled(bool)), this, SIGNAL(SettingChanged()));
     connect(ui->checkBoxAutoLaunch, SIGNAL(toggled(bool)), this, SIGNAL(SettingChanged()));
     connect(ui->checkBoxStayOnTop, SIGNAL(toggled(bool)), this, SIGNAL(SettingChanged()));
@@ -53,7 +53,7 @@ void DialogPreferences::SetSettings(const QMap<QString, QVariant> &settings)
     ui->checkBoxNoTitleBar->setChecked(settings.value("NoTitleBar").toBool());
     ui->checkBoxHideAtStartUp->setChecked(settings.value("HideAtStartUp").toBool());
     ui->comboBoxFrequency->setCurrentIndex(settings.value("UpdateFrequency").toInt() != 0 ? 1 : 0);
-    // By hand what the form's connections do otherwise: they were blocked too.
+    // What the form's connections do otherwise: they were blocked too.
     ui->doubleSpinBoxThreshold->setEnabled(bRemind);
     ui->checkBoxMonoColor->setVisible(bPieChartIcon);
 
@@ -79,12 +79,12 @@ QMap<QString, QVariant> DialogPreferences::GetSettings() const
     return settings;
 }
 
-void DialogPreferences::StandClearOf(const QWidget *other)
+void DialogPreferences::PlaceBeside(const QWidget *other)
 {
     const QRect taken = other->frameGeometry();
     const bool bCovers = other->isVisible() && other->windowFlags().testFlag(Qt::WindowStaysOnTopHint);
-    // An open panel stands where the user wants it. Before the first show only the window manager knows where
-    // it would open.
+    // An open panel is where the user wants it. Before its first show only the window manager knows where it
+    // would open.
     if (!bCovers || isVisible() || (windowHandle() && !frameGeometry().intersects(taken))) {
         return;
     }

@@ -6,7 +6,7 @@ DialogReminder::DialogReminder(QWidget *parent) : QDialog(parent), ui(new Ui_Dia
 {
     ui->setupUi(this);
     setWindowFlags(Qt::Dialog | Qt::WindowStaysOnTopHint);
-    // After the form's own connections: the dialog is hidden before anyone hears of the answer.
+    // After the form's own connections: the dialog is hidden before the answer is emitted.
     connect(ui->pushButtonYes, SIGNAL(clicked()), this, SIGNAL(Accepted()));
     connect(ui->pushButtonNoRemind, SIGNAL(clicked()), this, SIGNAL(DoNotRemind()));
 }

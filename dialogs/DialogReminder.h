@@ -4,8 +4,8 @@
 
 class Ui_DialogReminder;
 
-/// Asks whether to free memory now, above all other windows. "No" and Escape are the dialog's own rejected();
-/// the two other buttons only hide it, so that they count neither as accepted nor as rejected.
+/// Asks whether to free memory now, above all other windows. "No" and Escape reject the dialog. The two other
+/// buttons deliberately only hide it: they count neither as accepted nor as rejected.
 class DialogReminder : public QDialog
 {
     Q_OBJECT

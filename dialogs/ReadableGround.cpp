@@ -13,9 +13,9 @@ QColor InkOf(const QWidget *widget)
 
 } // namespace
 
-// The style sheets fix the colour of some texts and leave the ground to the desktop: black stays black in the
-// dark style, blue stays blue in the classic one, also on a dark desktop. The text's colour cannot give way,
-// so the ground does, and with it the window's controls. Each gets the palette itself: below a style sheet
+// The style sheets fix the colour of some texts and leave the background to the desktop: black text in the
+// dark style and blue text in the classic one keep their colour on a dark desktop too. So the background
+// changes, and with it the window's controls. Each widget gets the palette itself: below a style sheet
 // nothing is inherited.
 void SetReadableGround(QWidget *window, QWidget *text)
 {

@@ -2,7 +2,7 @@
 
 class QWidget;
 
-/// Gives a window and all that is in it a plain light or dark palette where the style sheet's colour of
-/// `text`, a widget in that window, would be lost on the desktop's own. Call it with the style sheet in
+/// Gives a window and its widgets a plain light or dark palette if the style sheet's colour of `text`, a
+/// widget in that window, is hard to read on the desktop's own palette. To be called with the style sheet in
 /// place; the next sheet undoes it.
 void SetReadableGround(QWidget *window, QWidget *text);

@@ -1,7 +1,6 @@
 #include "freeing/WorkerThread.h"
 
-#include "platform/BundledResources.h"
-#include "stats/ByteCount.h"
+#include "platform/Global.h"
 
 #include <QFileInfo>
 
@@ -10,20 +9,20 @@
 
 namespace {
 
-/// Asked for on top of what is free and inactive, so that the helper is never short of the whole.
-constexpr qlonglong nMargin = 100LL << 20;
+/// Deliberately asked for on top of what is free and inactive, so that the target is never too small.
+constexpr qulonglong marginBytes = 100ULL << 20;
 
-/// How long a killed helper may take to be gone, and a thread to end, before we go on without it.
+/// How long to wait for a killed helper, and for a thread to end.
 constexpr int msKilled = 1000;
 constexpr int msEnded = 3000;
 
-/// Kills the helper and whatever it started. Only for the thread that reaps it: to any other the id may
-/// already be a stranger's.
+/// Kills the helper and everything it started. Only the thread that reaps it may do so: for any other one the
+/// process id may already belong to another program.
 void KillGroup(const QProcess &process)
 {
     const auto pid = static_cast<pid_t>(process.processId());
     if (pid > 0) {
-        // The child makes its group itself, but may not have come to it yet.
+        // The child creates its group itself, but may not have done so yet.
         ::setpgid(pid, pid);
         ::kill(-pid, SIGKILL);
     }
@@ -35,12 +34,11 @@ WorkerThread::WorkerThread(QObject *parent) : TerminableThread(parent) {}
 
 WorkerThread::~WorkerThread()
 {
-    // The window is destroyed with a run in progress, and deletes an aborted worker as soon as it hears
-    // terminated(), a moment before the thread is over: Qt ends the program when a running thread is
-    // destroyed.
+    // The window may be destroyed during a run, and deletes an aborted worker at terminated(), shortly before
+    // the thread ends. Qt aborts the program when a running thread is destroyed.
     Abort();
     if (!wait(msEnded)) {
-        // Nothing in run() waits that long, save for a file system that hangs.
+        // Only a file system that hangs keeps run() for so long.
         terminate();
         wait(msEnded);
     }
@@ -51,9 +49,9 @@ void WorkerThread::Start(qlonglong free, qlonglong inactive)
     if (isRunning()) {
         return;
     }
-    nFree = free;
-    nInactive = inactive;
-    // Here, since Qt remembers the application's directory at the first question and takes no lock for it.
+    freeBytes = free;
+    inactiveBytes = inactive;
+    // Here and not in run(): Qt caches the application's directory at the first call, without a lock.
     helper = Global::BundledResourcesDirectory() + QStringLiteral("/memfree");
     start(QThread::InheritPriority);
 }
@@ -65,18 +63,19 @@ void WorkerThread::OnError(QProcess::ProcessError)
 
 void WorkerThread::Abort()
 {
-    // Not terminate(): cancelled inside QProcess, the thread takes the program with it in one case out of
-    // thirty. Both calls may come before run() has reached its event loop, and count all the same; neither
-    // outlives the run.
+    // Not terminate(): a thread that is cancelled inside QProcess crashed the program in one case out of 30.
+    // Both calls work before run() has reached its event loop too, and neither outlasts the run.
     requestInterruption();
     quit();
 }
 
 void WorkerThread::run()
 {
-    const qlonglong nTarget = AddBytes(AddBytes(nInactive, nFree), nMargin);
+    // Unsigned: malformed figures wrap around.
+    const auto target = static_cast<qlonglong>(static_cast<qulonglong>(inactiveBytes) +
+                                               static_cast<qulonglong>(freeBytes) + marginBytes);
 
-    // Asked first, since Qt 6.4 loses a descriptor at every start that fails.
+    // Tested first: Qt 6.4 leaks a descriptor at every start that fails.
     if (const QFileInfo file(helper); !file.isFile() || !file.isExecutable()) {
         emit Failed();
         return;
@@ -90,12 +89,11 @@ void WorkerThread::run()
             Qt::DirectConnection);
     connect(process.get(), SIGNAL(errorOccurred(QProcess::ProcessError)), this, SLOT(quit()),
             Qt::DirectConnection);
-    process->start(helper, {QString::number(nTarget)}, QIODevice::ReadWrite);
+    process->start(helper, {QString::number(target)}, QIODevice::ReadWrite);
     exec();
     process->disconnect(this);
 
-    // Decided here and once: what happens to the helper from now on, by our hand or by its own, is no failure
-    // of the run.
+    // Decided once, here: what happens to the helper later is no failure of the run.
     const bool bAborted = isInterruptionRequested();
     if (bAborted) {
         KillGroup(*process);
@@ -104,21 +102,20 @@ void WorkerThread::run()
         OnError(process->error());
     }
     if (process->state() != QProcess::NotRunning) {
-        LetGo(std::move(process));
+        Detach(std::move(process));
     }
     if (bAborted) {
         emit terminated();
     }
 }
 
-/// Leaves the helper to end by itself: a process object kills its child when it is deleted, so it goes to the
-/// main thread and lives there for as long as the helper does. When the program ends first, the object is
-/// never deleted and the helper is left alone: it has done its work, and what it still does is its own
-/// affair.
-void WorkerThread::LetGo(std::unique_ptr<QProcess> process)
+/// Lets the helper run on until it ends by itself. A process object kills its child when it is deleted, so it
+/// moves to the main thread and lives as long as the helper. If the program ends first, the object is not
+/// deleted and the helper goes on.
+void WorkerThread::Detach(std::unique_ptr<QProcess> process)
 {
-    // Closed, the channel is still read, and what comes is thrown away: the helper may write for ever, and
-    // neither waits for us, nor dies of a closed pipe, nor makes us grow.
+    // A closed channel is still read and its data dropped: a helper that writes for ever neither blocks, nor
+    // dies of a closed pipe, nor fills our memory.
     process->closeReadChannel(QProcess::StandardOutput);
     connect(process.get(), SIGNAL(finished(int, QProcess::ExitStatus)), process.get(), SLOT(deleteLater()));
     process.release()->moveToThread(thread());

@@ -1,29 +1,41 @@
 #pragma once
 
-#include "freeing/TerminableThread.h"
-
 #include <QProcess>
 #include <QString>
+#include <QThread>
 
 #include <memory>
+
+/// A thread with the signal that QThread had in Qt 4. It is a class of its own so that the worker declares
+/// only its own signals.
+class TerminableThread : public QThread
+{
+    Q_OBJECT
+
+public:
+    using QThread::QThread;
+
+signals:
+    /// The run was aborted. Emitted once by the ending thread, before finished().
+    void terminated();
+};
 
 /// Runs the helper that frees memory, Resources/memfree, and waits for its first output or its end on a
 /// thread of its own.
 ///
-/// All the world learns of a run: Failed() when the helper could not be started or crashed, terminated() when
-/// the run was aborted, and then finished(), whatever came before. The helper's output and exit status are
-/// not looked at.
+/// The outcome is known by signals only: Failed() if the helper could not be started or crashed, terminated()
+/// if the run was aborted, then finished() in every case. Output and exit status are ignored.
 class WorkerThread : public TerminableThread
 {
     Q_OBJECT
 
 public:
     explicit WorkerThread(QObject *parent);
-    /// Aborts a run that is in progress and waits for its end.
+    /// Aborts a run in progress and waits for its end.
     ~WorkerThread() override;
 
 signals:
-    /// The helper is missing, cannot be executed or crashed before it wrote anything. Never emitted for an
+    /// The helper is missing, cannot be executed, or crashed before it wrote anything. Never emitted for an
     /// aborted run.
     void Failed();
 
@@ -31,17 +43,17 @@ public slots:
     /// Starts a run sized by the two figures, in bytes. Does nothing while one is in progress.
     void Start(qlonglong free, qlonglong inactive);
     void OnError(QProcess::ProcessError);
-    /// Kills the helper, with all that it started, and ends the run. Returns at once; harmless when nothing
-    /// runs.
+    /// Kills the helper and everything it started, and ends the run. Returns at once; does nothing without a
+    /// run.
     void Abort();
 
 protected:
     void run() override;
 
 private:
-    void LetGo(std::unique_ptr<QProcess> process);
+    void Detach(std::unique_ptr<QProcess> process);
 
-    qlonglong nFree = 0;
-    qlonglong nInactive = 0;
+    qlonglong freeBytes = 0;
+    qlonglong inactiveBytes = 0;
     QString helper;
 };

@@ -2,7 +2,6 @@
 
 #include "dialogs/DialogStartUpInfo.h"
 #include "dialogs/ReadableGround.h"
-#include "mainwindow/UsageCounters.h"
 #include "platform/WindowPlacement.h"
 #include "ui_MainDialog.h"
 
@@ -15,8 +14,7 @@ MainDialog::MainDialog(QWidget *parent) : QFrame(parent), ui(new Ui_MainDialog)
     ui->setupUi(this);
     setWindowFlags(Qt::WindowSystemMenuHint);
     setAttribute(Qt::WA_MouseTracking, false);
-    // See-through where the display can do it, for the dark style. It must stand before the native window is
-    // made.
+    // For the dark style, translucent where the display can do it. To be set before the native window exists.
     setAttribute(Qt::WA_TranslucentBackground);
     rectClose = QRectF(4.0, 4.0, 14.0, 14.0);
     setWindowTitle(QCoreApplication::applicationName());
@@ -32,7 +30,7 @@ MainDialog::MainDialog(QWidget *parent) : QFrame(parent), ui(new Ui_MainDialog)
     timerUpdate.start(2000);
     UpdateStats(true);
     RestoreState();
-    CountStart();
+    CountUse(QStringLiteral("Application/StartCount"), 15, 2000);
 
     timerAbort.setInterval(50000);
     timerHide.setInterval(1000);
@@ -53,10 +51,10 @@ void MainDialog::RestoreState()
 {
     const QSettings settings;
     bNoWarning = settings.value(QStringLiteral("MainWindow/Warning"), false).toBool();
-    // (0, 0) is also what a missing key reads as, so it means no position rather than the corner.
+    // Deliberate: (0, 0), which is also what a missing key reads as, means no position.
     const QPoint position = settings.value(QStringLiteral("MainWindow/Position")).toPoint();
     if (!position.isNull()) {
-        Place(position);
+        placement->MoveTo(position);
     }
 }
 
@@ -65,14 +63,7 @@ void MainDialog::SaveState()
     QSettings settings;
     settings.setValue(QStringLiteral("MainWindow/Warning"), bNoWarning);
     if (WindowPlacement::CanPlace()) {
-        settings.setValue(QStringLiteral("MainWindow/Position"), pos());
-    }
-}
-
-void MainDialog::CountStart()
-{
-    if (CountUsage(UsageCounter::Starts)) {
-        QTimer::singleShot(2000, this, SLOT(RemindFeedback()));
+        settings.setValue(QStringLiteral("MainWindow/Position"), placement->PositionToStore());
     }
 }
 
@@ -87,8 +78,7 @@ void MainDialog::SetStyle(int nStyle)
                            QByteArray(), this);
     ui->labelWait->setMovie(movieWait);
     movieWait->start();
-    // Nobody sees a hidden label's frames, and ten wake-ups a second are not free. A request to free memory
-    // lets it run on.
+    // A hidden label needs no frames, at ten wake-ups a second. A freeing run starts the movie.
     movieWait->setPaused(ui->labelWait->isHidden());
     KeepReadable();
 }
@@ -107,9 +97,4 @@ void MainDialog::ShowStartUpMessage()
 {
     DialogStartUpInfo notice(this);
     notice.exec();
-}
-
-void MainDialog::Place(const QPoint &frameTopLeft)
-{
-    placement->MoveTo(frameTopLeft);
 }

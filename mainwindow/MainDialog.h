@@ -1,7 +1,5 @@
 #pragma once
 
-#include "stats/PieSlices.h"
-
 #include <QFrame>
 #include <QTimer>
 #include <QVariantMap>
@@ -12,8 +10,7 @@ class WindowPlacement;
 class WorkerThread;
 
 /// The main window: a small fixed-size panel with the memory figures, their pie chart, the total and the
-/// "Free Memory" button. It is implemented by subject: sampling in stats/, freeing in freeing/, the rest
-/// here.
+/// "Free Memory" button. Each subject has a file: MainDialogSampling.cpp, MainDialogFreeing.cpp, ...
 class MainDialog : public QFrame
 {
     Q_OBJECT
@@ -22,18 +19,16 @@ public:
     explicit MainDialog(QWidget *parent);
     ~MainDialog() override;
 
-    /// Takes the wait indicator of the light (0) or the dark style; the style sheet is the controller's.
+    /// Shows the wait indicator of the light (0) or the dark style. The controller sets the style sheet.
     void SetStyle(int nStyle);
     /// Runs the start-up notice modally.
     void ShowStartUpMessage();
     /// Draws the chart of the latest sample, 72 x 72 pixels.
     QPixmap CreatePieChart();
-    /// Stores what is kept of the window itself: its place, and whether to warn before freeing.
+    /// Stores the window's position and whether to warn before freeing.
     void SaveState();
-    /// Puts the window's frame at a point of the desktop, where a window may choose its place at all.
-    void Place(const QPoint &frameTopLeft);
     /// Keeps the texts that the style sheet colours readable on the desktop's palette. To be called whenever
-    /// the window has been polished anew: after a style sheet and after new window flags.
+    /// the window has been polished: after a new style sheet and after new window flags.
     void KeepReadable();
 
 public slots:
@@ -65,10 +60,11 @@ protected:
 private:
     void CreateWorker();
     void RestoreState();
-    void CountStart();
+    /// Counts one use in the settings store. With more than `enough` before, it schedules the feedback
+    /// prompt.
+    void CountUse(const QString &key, int enough, int msDelay);
     void ShowFigures();
-    void ShowPieChart();
-    /// What the pie chart shows, for those who cannot see it: "Free: 1.00 GB, Inactive: ...".
+    /// The pie chart's content for screen readers: "Free: 1.00 GB, Inactive: ...".
     QString FiguresInWords() const;
     void ShowResult(const QString &text);
     bool IsBusy() const;
@@ -91,5 +87,4 @@ private:
     QTimer timerUpdate;
     QMovie *movieWait = nullptr;
     WindowPlacement *placement = nullptr;
-    std::optional<PieSlices> slicesShown;
 };

@@ -1,5 +1,5 @@
-// The main window under the mouse: dragging by its body, and the close mark of the frameless window, with the
-// key that does the same.
+// The main window and the mouse: dragging by the window's body, and the close mark of the frameless window
+// with the key that does the same.
 
 #include "mainwindow/MainDialog.h"
 #include "platform/WindowPlacement.h"
@@ -10,8 +10,8 @@
 
 void MainDialog::paintEvent(QPaintEvent *event)
 {
-    // Qt and the style sheet paint the dark style's half-transparent ground more than once, one over the
-    // other; this is it.
+    // Qt and the style sheet both paint the dark style's translucent background, one over the other. This
+    // replaces what they have painted.
     QPainter painter(this);
     painter.setCompositionMode(QPainter::CompositionMode_Source);
     painter.fillRect(rect(), palette().brush(QPalette::Window));
@@ -42,7 +42,7 @@ void MainDialog::mousePressEvent(QMouseEvent *event)
     event->accept();
     const bool bOnCloseMark =
         windowFlags().testFlag(Qt::FramelessWindowHint) && rectClose.contains(event->position());
-    // Handed over to the compositor, the press would never come back as a click on the mark.
+    // A compositor that moves the window keeps the press, and the mark would never see its click.
     if (!bOnCloseMark || WindowPlacement::CanPlace()) {
         placement->StartDrag();
     }
@@ -59,7 +59,7 @@ void MainDialog::mouseMoveEvent(QMouseEvent *event)
 
 void MainDialog::mouseReleaseEvent(QMouseEvent *event)
 {
-    // A drag that ends over the mark hides the window too.
+    // Deliberate: a drag that ends over the mark hides the window too.
     if (windowFlags().testFlag(Qt::FramelessWindowHint) && event->button() == Qt::LeftButton &&
         rectClose.contains(event->position())) {
         hide();
@@ -96,6 +96,5 @@ void MainDialog::SetHover(bool bOver)
 
 void MainDialog::closeEvent(QCloseEvent *)
 {
-    // Accepted as it comes: the window only hides, since the program does not end with its last window.
-    // Ignoring it would veto quitting.
+    // The event stays accepted: the window hides. Ignoring it would veto quitting.
 }

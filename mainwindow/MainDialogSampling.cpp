@@ -1,15 +1,15 @@
-// The main window's sampling: the one place where the statistics record is filled and shown, and the one file
-// outside app/ that knows the controller, to which it hands every sample.
+// The main window's sampling: fills the statistics record, shows it, and passes it to the controller. The
+// only file outside app/ that includes the controller.
 
 #include "app/MyApp.h"
+#include "figures/ByteCount.h"
+#include "figures/FormatSizeString.h"
+#include "figures/MemoryReport.h"
+#include "figures/PieChart.h"
+#include "figures/PieSlices.h"
 #include "freeing/WorkerThread.h"
 #include "mainwindow/MainDialog.h"
 #include "platform/Global.h"
-#include "stats/ByteCount.h"
-#include "stats/FormatSizeString.h"
-#include "stats/MemoryReport.h"
-#include "stats/PieChart.h"
-#include "stats/PieSlices.h"
 #include "ui_MainDialog.h"
 
 void MainDialog::OnTimeOut()
@@ -18,8 +18,7 @@ void MainDialog::OnTimeOut()
         return;
     }
     UpdateStats(false);
-    // The period counts from the end of a sample: an interpreter slower than that must not keep every other
-    // event waiting, a quit among them.
+    // The period counts from the end of a sample: a slow interpreter must leave time for other events.
     timerUpdate.start();
 }
 
@@ -28,11 +27,13 @@ void MainDialog::UpdateStats(bool bForce)
     ReadMemoryReport(Global::RunAppleScript(QStringLiteral("do shell script \"vm_stat\""), this, true),
                      stats);
     ShowFigures();
-
     if (bForce || isVisible()) {
-        ShowPieChart();
+        ui->labelPieChart->setPixmap(CreatePieChart());
+        ui->labelPieChart->setAccessibleDescription(FiguresInWords());
     }
-    qobject_cast<MyApp *>(QCoreApplication::instance())->UpdateMenu(stats);
+    if (auto *app = qobject_cast<MyApp *>(QCoreApplication::instance())) {
+        app->UpdateMenu(stats);
+    }
 }
 
 void MainDialog::ShowFigures()
@@ -47,24 +48,13 @@ void MainDialog::ShowFigures()
     show("Active", ui->labelActive);
     show("Wired", ui->labelWired);
 
-    // Half of a hundredth of a gigabyte: the report does not quite add up to the installed memory, so the
-    // total, shown with two decimals, is made to round up.
+    // Deliberate: half a hundredth of a gigabyte more. The report does not quite add up to the installed
+    // memory, so the total, shown with two decimals, is rounded up.
     constexpr qlonglong totalBias = 5368709;
     const qlonglong used = stats[QStringLiteral("Used")].toLongLong();
     const qlonglong total = AddBytes(stats[QStringLiteral("Free")].toLongLong(), used);
     ui->labelUsed->setText(FormatSizeString(used));
     ui->labelTotal->setText(FormatSizeString(AddBytes(total, totalBias)));
-}
-
-void MainDialog::ShowPieChart()
-{
-    ui->labelPieChart->setAccessibleDescription(FiguresInWords());
-    // Same slices, same pixels: the label then has them already.
-    const auto slices = SlicesOf(stats);
-    if (slices != slicesShown || ui->labelPieChart->pixmap().isNull()) {
-        ui->labelPieChart->setPixmap(CreatePieChart());
-        slicesShown = slices;
-    }
 }
 
 QString MainDialog::FiguresInWords() const

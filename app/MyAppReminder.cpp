@@ -1,7 +1,7 @@
 // The reminder of inactive memory: when it is shown, and what its answers do.
 
 #include "app/MyApp.h"
-#include "app/ReminderRule.h"
+#include "app/SettingsRecord.h"
 #include "dialogs/DialogPreferences.h"
 #include "dialogs/DialogReminder.h"
 #include "mainwindow/MainDialog.h"
@@ -13,11 +13,11 @@ void MyApp::Remind(const QVariantMap &stats)
     if (!mainDialog || !dialogPreferences || !dialogReminder || bRemindSuppressed) {
         return;
     }
-    // Whoever has a window of ours open is looking at the figures already.
+    // A user with one of these windows open sees the figures already.
     if (mainDialog->isVisible() || dialogPreferences->isVisible() || !IsReminderDue(settings, stats)) {
         return;
     }
-    // An open reminder follows the figure, sample by sample.
+    // Set for an open reminder too: it follows the figure.
     dialogReminder->SetMessage(tr("Your inactive memory has reached %1. Do you want to free memory now?")
                                    .arg(stats.value(QStringLiteral("FormattedInactive")).toString()));
     if (!dialogReminder->isVisible()) {
@@ -27,8 +27,7 @@ void MyApp::Remind(const QVariantMap &stats)
 
 void MyApp::OnRemindRejected()
 {
-    // A flag, not a count: whichever of several timers fires first ends the silence, so that saying "No"
-    // again does not put the reminder off for longer than was promised.
+    // Deliberately a flag, not a counter: a second "No" does not extend the five minutes of the first.
     bRemindSuppressed = true;
     QTimer::singleShot(300000, this, SLOT(ResetReminder()));
 }
@@ -40,8 +39,8 @@ void MyApp::ResetReminder()
 
 void MyApp::OnDoNotRemind()
 {
-    // The panel's record, since it has what the user chose last; nothing else changes now, and it is stored
-    // at the end with the rest.
+    // Deliberately the panel's record, which has what the user chose last. It is stored at the end, as
+    // always.
     settings = dialogPreferences->GetSettings();
     settings[QStringLiteral("Remind")] = false;
     dialogPreferences->SetSettings(settings);

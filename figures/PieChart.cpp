@@ -1,20 +1,20 @@
-#include "stats/PieChart.h"
+#include "figures/PieChart.h"
 
-#include "stats/PieSlices.h"
+#include "figures/PieSlices.h"
 
 #include <QPainter>
 
 namespace {
 
-QImage TransparentImage(int nEdge)
+QImage TransparentImage(int edge)
 {
-    QImage image(nEdge, nEdge, QImage::Format_ARGB32_Premultiplied);
+    QImage image(edge, edge, QImage::Format_ARGB32_Premultiplied);
     image.fill(Qt::transparent);
     return image;
 }
 
-/// The three translucent discs below the window's pie, each a pixel smaller all round: the darkening adds up
-/// inwards and fades out at the edge.
+/// The three translucent discs below the window's pie, each a pixel smaller all around: the shadow gets
+/// darker inwards and fades out at the edge.
 QImage DrawRim()
 {
     QImage image = TransparentImage(72);
@@ -28,7 +28,7 @@ QImage DrawRim()
     return image;
 }
 
-/// The hairline round the status icon's pie.
+/// The hairline around the status icon's pie.
 QImage DrawOutline()
 {
     QImage image = TransparentImage(64);
@@ -43,19 +43,19 @@ QImage DrawOutline()
 
 void DrawSlices(QPainter &painter, const QRectF &rect, const PieSlices &slices)
 {
-    const auto slice = [&](Qt::GlobalColor color, int nStart, int nSpan) {
+    const auto slice = [&](Qt::GlobalColor color, int start, int span) {
         painter.setBrush(QBrush(color));
-        painter.drawPie(rect, nStart, nSpan);
+        painter.drawPie(rect, start, span);
     };
-    slice(Qt::green, PieSlices::TwelveOClock, slices.nFree);
-    slice(Qt::blue, slices.InactiveStart(), slices.nInactive);
-    slice(Qt::yellow, slices.ActiveStart(), slices.nActive);
+    slice(Qt::green, PieSlices::TwelveOClock, slices.freeSpan);
+    slice(Qt::blue, slices.InactiveStart(), slices.inactiveSpan);
+    slice(Qt::yellow, slices.ActiveStart(), slices.activeSpan);
     slice(Qt::red, slices.WiredStart(), slices.WiredSpan());
 }
 
 QPixmap DrawWindowPie(const std::optional<PieSlices> &slices)
 {
-    // Half of the whole drawing's cost, and always the same.
+    // Half of the drawing's cost, and always the same.
     static const QImage rim = DrawRim();
     QImage image = rim;
     if (slices) {
@@ -80,11 +80,11 @@ QPixmap DrawColorPie(const PieSlices &slices)
     return QPixmap::fromImage(std::move(image));
 }
 
-QPixmap DrawMonoPie(const PieSlices &slices, int nScale)
+QPixmap DrawMonoPie(const PieSlices &slices, int scale)
 {
-    QImage image = TransparentImage(32 * nScale);
+    QImage image = TransparentImage(32 * scale);
     QPainter painter(&image);
-    painter.scale(nScale, nScale);
+    painter.scale(scale, scale);
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setPen(Qt::NoPen);
 
@@ -92,7 +92,7 @@ QPixmap DrawMonoPie(const PieSlices &slices, int nScale)
     painter.setBrush(Qt::black);
     painter.drawEllipse(rect);
     painter.setBrush(Qt::white);
-    painter.drawPie(QRectF(rect), PieSlices::TwelveOClock, slices.nFree);
+    painter.drawPie(QRectF(rect), PieSlices::TwelveOClock, slices.freeSpan);
 
     painter.setPen(QPen(Qt::black, 2.0, Qt::SolidLine, Qt::SquareCap, Qt::BevelJoin));
     painter.setBrush(Qt::NoBrush);

@@ -1,4 +1,4 @@
-// How the settings reach the running program.
+// The controller applies the settings.
 
 #include "app/MyApp.h"
 #include "app/SettingsRecord.h"
@@ -17,7 +17,6 @@ void MyApp::OnSettingChanged()
     };
 
     const bool bVisible = mainDialog->isVisible();
-    const QPoint position = mainDialog->pos();
     if (NeedsWindowFlags(changed, settings, bVisible)) {
         mainDialog->setWindowFlags(MainWindowFlags(changed));
         mainDialog->KeepReadable();
@@ -26,11 +25,10 @@ void MyApp::OnSettingChanged()
         SetStyle(number(changed, "WindowStyle"));
     }
     if (bVisible) {
-        // New flags hide a window; this brings it back in its place, and the keyboard back to the panel.
+        // New flags hide a window. Shown again, it is back at its position; the panel gets the keyboard back.
         const bool bInPanel = dialogPreferences->isActiveWindow();
         mainDialog->setVisible(true);
         mainDialog->raise();
-        mainDialog->Place(position);
         if (bInPanel) {
             dialogPreferences->activateWindow();
         }
@@ -38,13 +36,13 @@ void MyApp::OnSettingChanged()
     if (!flag("PieChartIcon") && settings[QStringLiteral("PieChartIcon")].toBool()) {
         SetPlainIcon();
     }
-    // At the start both are the stored record, so the window begins with its own 2 s whatever is stored: the
-    // first figures come quickly, and the slower pace is for whoever chooses it while Kelvo runs.
+    // Deliberate: at the start both are the stored record, so the window samples every 2 s whatever is
+    // stored, until the user changes the period.
     if (number(changed, "UpdateFrequency") != number(settings, "UpdateFrequency")) {
         mainDialog->SetUpdateFrequency(number(changed, "UpdateFrequency"));
     }
-    // Changed or not, and so at every start too: the login item follows the setting even after somebody else
-    // touched it.
+    // Deliberately every time, also at every start: the login item follows the setting even after somebody
+    // else changed it.
     Global::SetAutoLaunch(flag("AutoLaunch"));
     mainDialog->SetAutoHide(flag("AutoHide"));
     settings = changed;
@@ -55,7 +53,7 @@ void MyApp::SetStyle(int style)
 {
     QFile sheet(style ? QStringLiteral(":/mac_dark.qss") : QStringLiteral(":/mac.qss"));
     (void)sheet.open(QIODevice::ReadOnly);
-    // Emptied first, so that every widget is polished anew even under the same text.
+    // Cleared first, so that every widget is polished again even if the text is the same.
     setStyleSheet(QString());
     setStyleSheet(QString::fromLatin1(sheet.readAll()));
     mainDialog->SetStyle(style);

@@ -8,6 +8,5 @@
 ///
 /// Lines are found by their label, in any order and in any case, as in
 ///     Pages free:                              123456.
-/// A line that is not there leaves its key as the sample before left it; a count that is not a number is 0
-/// bytes.
+/// A missing line leaves its key at the previous sample's value; a count that is not a number is 0 bytes.
 void ReadMemoryReport(const QString &report, QVariantMap &stats);

@@ -1,14 +1,14 @@
-#include "stats/PieSlices.h"
+#include "figures/PieSlices.h"
 
-#include "stats/ByteCount.h"
+#include "figures/ByteCount.h"
 
 #include <algorithm>
 #include <cstdlib>
 
 namespace {
 
-/// A share of the whole, cut towards zero. Bounded, so that the three spans of a senseless record still add
-/// up in an int.
+/// A share of the whole, truncated towards zero. Bounded, so that three spans of a malformed record fit into
+/// an int together.
 int Span(qlonglong value, double whole)
 {
     constexpr double limit = 1 << 28;
@@ -20,7 +20,7 @@ int Span(qlonglong value, double whole)
 
 bool PieSlices::LooksLike(const PieSlices &other) const
 {
-    const auto near = [](int n, int nOther) { return std::abs(n - nOther) <= FullCircle / 1000; };
+    const auto near = [](int a, int b) { return std::abs(a - b) <= FullCircle / 1000; };
     return near(InactiveStart(), other.InactiveStart()) && near(ActiveStart(), other.ActiveStart()) &&
            near(WiredStart(), other.WiredStart());
 }

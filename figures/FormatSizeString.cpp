@@ -1,4 +1,4 @@
-#include "stats/FormatSizeString.h"
+#include "figures/FormatSizeString.h"
 
 #include <QCoreApplication>
 #include <QLocale>
@@ -6,9 +6,9 @@
 QString FormatSizeString(qlonglong size)
 {
     const QLocale locale;
-    const auto rounded = [&](int nShift, int nDecimals) {
-        const auto unit = static_cast<double>(1LL << nShift);
-        return locale.toString(static_cast<double>(size) / unit, 'f', nDecimals);
+    const auto rounded = [&](int shift, int decimals) {
+        const auto unit = static_cast<double>(1LL << shift);
+        return locale.toString(static_cast<double>(size) / unit, 'f', decimals);
     };
 
     if (size >= 1LL << 40) {

@@ -2,10 +2,10 @@
 
 #include "app/MyApp.h"
 #include "dialogs/DialogAbout.h"
+#include "figures/PieChart.h"
 #include "mainwindow/MainDialog.h"
 #include "platform/Global.h"
 #include "platform/TrayHost.h"
-#include "stats/PieChart.h"
 
 #include <QAction>
 #include <QMenu>
@@ -15,15 +15,14 @@
 
 void MyApp::InitializeTrayIcon()
 {
-    // Without parent, and never deleted: a menu of the desktop's outlives the controller's windows.
+    // Deliberately without a parent and never deleted: the desktop may hold on to it until the process ends.
     auto *menu = new QMenu;
     const auto addEntry = [&](const QString &text, QObject *receiver, const char *slot) {
         auto *entry = new QAction(text, this);
         connect(entry, SIGNAL(triggered()), receiver, slot);
         menu->addAction(entry);
     };
-    // Free first, then by what can be had back: wired never, active hardly, inactive, and right below it the
-    // way to it.
+    // Deliberately another order than that of creation: free first, then by what freeing can give back.
     menu->addAction(actionFree);
     menu->addAction(actionWired);
     menu->addAction(actionActive);
@@ -36,8 +35,8 @@ void MyApp::InitializeTrayIcon()
     menu->addSeparator();
     addEntry(tr("Quit"), this, SLOT(quit()));
 
-    // A session may start us before its panel, or have none: the icon waits for a tray, and without one the
-    // window is the only way in, whatever HideAtStartUp says.
+    // A session may start Kelvo before its panel, or have none. The icon waits for a tray. Without one, the
+    // window is the only way to use Kelvo, so it is shown whatever HideAtStartUp says.
     auto *trayHost = new TrayHost(this);
     connect(trayHost, SIGNAL(Clicked()), this, SLOT(OnShowMainDialog()));
     connect(trayHost, SIGNAL(Absent()), this, SLOT(OnShowMainDialog()));
@@ -50,8 +49,7 @@ void MyApp::InitializeTrayIcon()
         mainDialog->setVisible(true);
     }
 
-    // The move out of the Dock was news in version 1.1 only; nobody who starts with a later one has to be
-    // told.
+    // Deliberate: only version 1.1 tells that Kelvo has left the Dock. Later ones never show this.
     if (Global::VersionString == QLatin1String("1.1")) {
         QSettings store;
         const QString key = QStringLiteral("Application/StartUpMessageShown");
@@ -69,8 +67,7 @@ void MyApp::ShowTrayIcon(QMenu *menu)
     trayIcon->setVisible(true);
     trayIcon->setToolTip(applicationName());
     trayIcon->setContextMenu(menu);
-    // The fixed name last: an application name from elsewhere (a test, a wrapper) must not be what the panel
-    // says.
+    // Deliberately set again: the panel shows this name, whatever the application is called.
     trayIcon->setToolTip(QStringLiteral("Kelvo"));
 }
 
@@ -87,11 +84,15 @@ void MyApp::SetPlainIcon()
 
 void MyApp::UpdateMenu(const QMap<QString, QVariant> &stats)
 {
-    const auto text = [&](const char *key) { return stats.value(QLatin1String(key)).toString(); };
-    actionFree->setText(tr("Free: ") + text("FormattedFree"));
-    actionActive->setText(tr("Active: ") + text("FormattedActive"));
-    actionInactive->setText(tr("Inactive: ") + text("FormattedInactive"));
-    actionWired->setText(tr("Wired: ") + text("FormattedWired"));
+    const auto show = [&](QAction *entry, const QString &label, const char *key) {
+        if (entry) {
+            entry->setText(label + stats.value(QLatin1String(key)).toString());
+        }
+    };
+    show(actionFree, tr("Free: "), "FormattedFree");
+    show(actionActive, tr("Active: "), "FormattedActive");
+    show(actionInactive, tr("Inactive: "), "FormattedInactive");
+    show(actionWired, tr("Wired: "), "FormattedWired");
 
     UpdateIcon(stats);
     Remind(stats);
@@ -103,14 +104,14 @@ void MyApp::UpdateIcon(const QVariantMap &stats)
     if (!trayIcon || !slices || !settings[QStringLiteral("PieChartIcon")].toBool()) {
         return;
     }
-    // Drawing an icon and having a panel show it costs more than taking the sample, so it is done when there
-    // is something to see. The black-and-white one shows free memory only.
+    // Drawing the icon and showing it in a panel costs more than the sample, so it is set when it looks
+    // different. The black-and-white one shows free memory only.
     const bool bMono = settings[QStringLiteral("MonoColor")].toBool();
-    const PieSlices pie = bMono ? PieSlices{slices->nFree} : *slices;
+    const PieSlices pie = bMono ? PieSlices{slices->freeSpan} : *slices;
     if (!pieShown || pieShown->bMono != bMono || !pie.LooksLike(pieShown->slices)) {
         QIcon icon(bMono ? DrawMonoPie(pie) : DrawColorPie(pie));
         if (bMono) {
-            icon.addPixmap(DrawMonoPie(pie, 2)); // large panels do not enlarge what they get, or blur it
+            icon.addPixmap(DrawMonoPie(pie, 2)); // large panels do not enlarge the icon, or blur it
         }
         trayIcon->setIcon(icon);
         pieShown = {pie, bMono};

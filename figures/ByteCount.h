@@ -2,8 +2,8 @@
 
 #include <QtGlobal>
 
-/// Byte counts are signed 64-bit. A senseless report may hold any number, so these wrap round where plain
-/// arithmetic on signed values would be undefined.
+// Byte counts are signed 64-bit. A malformed report may hold any number, so these wrap around where plain
+// signed arithmetic would be undefined.
 
 inline qlonglong AddBytes(qlonglong a, qlonglong b)
 {

@@ -1,12 +1,11 @@
-// The main window's freeing slots: from a request, through the warning and the worker's run, to the result.
+// The main window's freeing run: from the request, by way of the warning and the worker, to the result.
 
 #include "dialogs/DialogWarning.h"
 #include "dialogs/ReadableGround.h"
+#include "figures/ByteCount.h"
+#include "figures/FormatSizeString.h"
 #include "freeing/WorkerThread.h"
 #include "mainwindow/MainDialog.h"
-#include "mainwindow/UsageCounters.h"
-#include "stats/ByteCount.h"
-#include "stats/FormatSizeString.h"
 #include "ui_MainDialog.h"
 
 #include <QLabel>
@@ -18,7 +17,7 @@
 
 namespace {
 
-/// Starting a timer is no news to anybody who listens to it.
+/// Starts a timer with its signals blocked.
 void StartSilently(QTimer &timer)
 {
     const QSignalBlocker blocker(timer);
@@ -35,7 +34,7 @@ void MainDialog::CreateWorker()
     connect(worker, SIGNAL(Failed()), this, SLOT(OnFailed()));
 }
 
-/// From a request until its outcome is shown, and while one of the flow's boxes waits for an answer.
+/// During a run, and while the warning or the failure box is open.
 bool MainDialog::IsBusy() const
 {
     return bAsking || !ui->pushButtonGo->isEnabled();
@@ -43,8 +42,7 @@ bool MainDialog::IsBusy() const
 
 void MainDialog::OnFreeMem()
 {
-    // Again from the menu or the reminder, or by the second click of a double click: it would lose the helper
-    // that runs.
+    // A second request, from the menu, the reminder or a double click, would lose the running helper.
     if (IsBusy()) {
         return;
     }
@@ -57,8 +55,8 @@ void MainDialog::OnFreeMem()
         bNoWarning = warning.GetShowNoWarning();
         bWarned = true;
         bAsking = false;
-        // Closing the warning in any way goes on: it informs, it does not ask. But the end of the program
-        // closes it too, and then this request is never delivered.
+        // Deliberate: however the warning is closed, the run goes on. It informs, it does not ask. But the
+        // end of the program closes it too, and then this request is not delivered any more.
         QMetaObject::invokeMethod(this, "OnFreeMem", Qt::QueuedConnection);
         return;
     }
@@ -77,22 +75,21 @@ void MainDialog::OnFreeMem()
 
 void MainDialog::OnFinished()
 {
-    // The end of a worker that OnTerminated() replaced: "N/A" stands. Deleted only now, since nobody can tell
-    // whose signal it is once its sender is gone.
-    if (sender() && sender() != worker) {
-        sender()->deleteLater();
+    // A worker that OnTerminated() has replaced: "N/A" stays. It is deleted only now, because a signal whose
+    // sender is gone cannot be told from the new worker's.
+    auto *const replaced = qobject_cast<WorkerThread *>(sender());
+    if (replaced && replaced != worker && replaced->parent() == this) {
+        replaced->deleteLater();
         return;
     }
-    // timerAbort runs on: when it fires it finds no running thread and stops itself.
+    // timerAbort deliberately runs on: when it fires it finds no running thread and stops itself.
     timerReset.stop();
     timerHide.stop();
     ui->pushButtonGo->setEnabled(true);
     UpdateStats(false);
     const qlonglong gained = SubtractBytes(stats[QStringLiteral("Free")].toLongLong(), nFreeBefore);
     ShowResult(FormatSizeString(std::max(gained, 0LL)));
-    if (CountUsage(UsageCounter::FreeingRuns)) {
-        QTimer::singleShot(1000, this, SLOT(RemindFeedback()));
-    }
+    CountUse(QStringLiteral("Application/ExecCount"), 20, 1000);
 }
 
 void MainDialog::OnTerminated()
@@ -102,7 +99,7 @@ void MainDialog::OnTerminated()
     timerHide.stop();
     ui->pushButtonGo->setEnabled(true);
     CreateWorker();
-    ShowResult(QStringLiteral("N/A")); // the same in every language
+    ShowResult(QStringLiteral("N/A")); // deliberately not translated
 }
 
 void MainDialog::ShowResult(const QString &text)
@@ -113,8 +110,8 @@ void MainDialog::ShowResult(const QString &text)
     if (movieWait) {
         movieWait->stop();
     }
-    // Neither timer is single-shot: auto-hide goes on hiding the window every second until the next request,
-    // result or change of the setting, so that it cannot be left standing by a window shown in between.
+    // Deliberately not single-shot: auto-hide hides the window every second until the next request, result or
+    // change of the setting, also a window that was shown in between.
     if (bAutoHide) {
         StartSilently(timerHide);
     }

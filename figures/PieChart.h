@@ -12,12 +12,12 @@ struct PieSlices;
 /// red, the hues that the figures have in the window and in the menu.
 void DrawSlices(QPainter &painter, const QRectF &rect, const PieSlices &slices);
 
-/// The main window's chart, 72 x 72 pixels: the slices on a soft round shadow; the shadow alone when nothing
-/// is known.
+/// The main window's chart, 72 x 72 pixels: the slices on a soft round shadow; the shadow alone without
+/// slices.
 QPixmap DrawWindowPie(const std::optional<PieSlices> &slices);
 
 /// The status icon in colour, 64 x 64 pixels.
 QPixmap DrawColorPie(const PieSlices &slices);
 
 /// The status icon in black and white, 32 x 32 pixels or a multiple: free memory is the white slice.
-QPixmap DrawMonoPie(const PieSlices &slices, int nScale = 1);
+QPixmap DrawMonoPie(const PieSlices &slices, int scale = 1);
