@@ -4,21 +4,29 @@
 
 class QObject;
 
-/// Process-wide helpers: the version and the two ways of asking the system for something.
+/// Process-wide helpers: the version, the bundled files, and the two ways of asking the system for something.
 namespace Global {
 
 /// The program's version, as the About dialog shows it.
 extern const QString VersionString;
 
-/// Runs AppleScript source through the system's interpreter, or through the bundled one where the system has
-/// none.
+/// The directory of the bundled helper and catalogues: the executable's directory, one up, then Resources.
+/// Absolute, no trailing slash. Needs an application object. A missing directory is not an error: its files
+/// are missing then.
+QString BundledResourcesDirectory();
+
+/// Runs AppleScript source: by /usr/bin/osascript where it can be executed, otherwise by SystemAnswer().
 ///
-/// @param script  complete source, lines separated by line feeds; fed to the interpreter as UTF-8, unescaped
+/// @param script  complete source, lines separated by line feeds; passed on as UTF-8, unescaped
 /// @param parent  Qt parent of the process object
-/// @param bWait   true: block, with no time-out, until the first output; false: start, feed and return
-/// @return with bWait, the first burst of standard output, trimmed, decoded as Latin-1 and cut at a NUL byte;
+/// @param bWait   true: block, with no time-out, until the first output; false: start, pass the script,
+/// return
+/// @return with bWait, the first block of standard output, cut at a NUL byte, decoded as Latin-1 and trimmed;
 ///         otherwise, and whenever there is no answer, the empty string
 QString RunAppleScript(const QString &script, QObject *parent, bool bWait);
+
+/// The process of RunAppleScript(), with the interpreter's path as an argument.
+QString RunInterpreter(const QString &program, const QString &script, QObject *parent, bool bWait);
 
 /// The two System Events scripts that SetAutoLaunch sends, and what it derives their arguments from.
 QString AddLoginItemScript(const QString &bundlePath);

@@ -13,12 +13,12 @@
 static volatile std::sig_atomic_t wakeDescriptor = -1;
 
 extern "C" {
-/// Almost nothing may be called in a signal handler: one byte wakes the event loop, which does the rest.
+/// A signal handler may call almost nothing: one byte wakes the event loop, which does the rest.
 static void WakeEventLoop(int)
 {
     const int savedErrno = errno;
     const char byte = 0;
-    // A full socket has enough bytes in it already.
+    // A full socket wakes it anyway.
     (void)!write(wakeDescriptor, &byte, 1);
     errno = savedErrno;
 }
@@ -58,7 +58,7 @@ QuitOnSignal::~QuitOnSignal()
         sigaction(signalNumbers[i], &oldActions[i], nullptr);
     }
     wakeDescriptor = -1;
-    // The notifier first: it must not watch a number that the next open may be given.
+    // The notifier first: the next open may get the number that it watches.
     qDeleteAll(children());
     for (const int descriptor : descriptors) {
         close(descriptor);

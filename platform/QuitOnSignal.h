@@ -6,12 +6,12 @@
 #include <csignal>
 
 /// Turns SIGTERM, SIGINT and SIGHUP into a quit request, a Close event posted to the application object, so
-/// that the end of a session runs destructors and saves. A SIGHUP that was ignored at the start (nohup) stays
+/// that the end of a session runs destructors and saves. A SIGHUP that is ignored at the start (nohup) stays
 /// ignored.
 ///
-/// One at a time, after the application object is made. As its child it also covers the application's own
-/// destructor: a second signal during the last saving changes nothing. The old dispositions come back with
-/// its destruction.
+/// One at a time, created after the application object. As its child it also covers the application's
+/// destructor: a second signal while the settings are saved changes nothing. Its destructor restores the old
+/// dispositions.
 class QuitOnSignal : public QObject
 {
     Q_OBJECT

@@ -4,7 +4,7 @@
 
 namespace {
 
-/// A directory can be named like a piece of script: unescaped, it would be run as one.
+/// A directory's name can contain script text, which would be run if it were not escaped.
 QString Escaped(QString text)
 {
     return text.replace(QLatin1Char('\\'), QLatin1String("\\\\"))
@@ -35,20 +35,19 @@ QString Global::RemoveLoginItemScript(const QString &itemName)
 QString Global::BundlePath(const QString &applicationDirPath)
 {
     const qsizetype end = applicationDirPath.lastIndexOf(QStringLiteral("/Contents/MacOS"));
-    // Not checked any further: outside a bundle, the directory itself is what can be started.
+    // Deliberately not checked any further: outside a bundle, the directory itself is used.
     return end > 0 ? applicationDirPath.left(end) : applicationDirPath;
 }
 
 QString Global::LoginItemName(const QString &applicationName)
 {
-    // The system shows a hyphenated application with blanks; the item is found under the name shown.
+    // The system shows a hyphenated application name with blanks, and the item is found by the name shown.
     return QString(applicationName).replace(QLatin1Char('-'), QLatin1Char(' '));
 }
 
 void Global::SetAutoLaunch(bool bOn)
 {
-    // Added without asking whether it is there: the interpreter that keeps the list knows best, and one
-    // process is enough.
+    // Deliberately added without a test whether it exists: whoever keeps the list knows that best.
     const QString script = bOn ? AddLoginItemScript(BundlePath(QCoreApplication::applicationDirPath()))
                                : RemoveLoginItemScript(LoginItemName(QCoreApplication::applicationName()));
     RunAppleScript(script, QCoreApplication::instance(), true);

@@ -10,15 +10,15 @@
 #include <algorithm>
 #include <limits>
 
-// X11: a place chosen before the show is taken for the client area's, so that a titled window drifts by its
-// frame at every start, and a frameless one may land at (0, 0). Moving again once the window manager has
-// framed it cures both; it does that some 50 ms after the show, while it is starting up itself much later,
-// and says so to nobody. The waits between the looks double: 50, 100, ... 1600 ms, and end with the first two
-// that find the frame there and in place.
-static constexpr int msFirstLook = 50;
-static constexpr int msLastLook = 1600;
+// X11: a position that is set before the show is taken for the client area's. A titled window then drifts by
+// its frame at every start, and a frameless one may land at (0, 0). Moving again once the window manager has
+// framed the window cures both. It frames it some 50 ms after the show, much later while it is starting up
+// itself, and there is no signal for it. So the position is checked after 50, 100, ... 1600 ms, until two
+// checks in a row find the frame there and in place.
+static constexpr int msFirstCheck = 50;
+static constexpr int msLastCheck = 1600;
 
-// What must be seen of a window so that a mouse can get hold of it: a piece of its upper edge.
+// The part of a window that must be visible so that the mouse can reach it: a piece of its upper edge.
 static constexpr QSize handle(64, 24);
 
 WindowPlacement::WindowPlacement(QWidget *topLevel) : QObject(topLevel), window(topLevel)
@@ -33,22 +33,41 @@ void WindowPlacement::MoveTo(const QPoint &frameTopLeft)
     if (!CanPlace()) {
         return;
     }
-    // A settings file may say anything; coordinates of the X protocol have 16 bits.
+    // A settings file may hold anything; coordinates of the X protocol have 16 bits.
     wanted = QPoint(std::clamp(frameTopLeft.x(), -32768, 32767), std::clamp(frameTopLeft.y(), -32768, 32767));
-    window->move(Place());
+    MoveFrame();
     if (window->isVisible()) {
         bInPlace = false;
-        timerCorrect.start(msFirstLook);
+        timerCorrect.start(msFirstCheck);
     }
 }
 
-QPoint WindowPlacement::Place() const
+void WindowPlacement::MoveFrame()
 {
     QList<QRect> screens;
     for (const QScreen *screen : QGuiApplication::screens()) {
         screens << screen->availableGeometry();
     }
-    return Reachable(QRect(*wanted, window->frameSize()), screens);
+    framePlaced = Reachable(QRect(*wanted, window->frameSize()), screens);
+    window->move(framePlaced);
+    clientPlaced = window->geometry().topLeft();
+}
+
+void WindowPlacement::RememberPlace()
+{
+    framePlaced = window->pos();
+    clientPlaced = window->geometry().topLeft();
+}
+
+/// Whether somebody else has moved the window since. A new frame changes one of the two positions only.
+bool WindowPlacement::WasMoved() const
+{
+    return window->pos() != framePlaced && window->geometry().topLeft() != clientPlaced;
+}
+
+QPoint WindowPlacement::PositionToStore() const
+{
+    return wanted && (timerCorrect.isActive() || !WasMoved()) ? *wanted : window->pos();
 }
 
 bool WindowPlacement::StartDrag()
@@ -90,15 +109,25 @@ QPoint WindowPlacement::Reachable(const QRect &frame, const QList<QRect> &screen
 
 bool WindowPlacement::eventFilter(QObject *watched, QEvent *event)
 {
-    // What the window manager does to a window that is being hidden (it takes the frame away, and may move
-    // the window by its size) is none of the user's doing: hidden, the window keeps the place that it had,
-    // and comes back there.
-    if (event->type() == QEvent::Hide && !event->spontaneous() && !wanted && CanPlace()) {
-        wanted = window->pos();
+    if (!CanPlace()) {
+        return QObject::eventFilter(watched, event);
+    }
+    if (event->type() == QEvent::Hide && !event->spontaneous()) {
+        wanted = PositionToStore();
+        timerCorrect.stop();
+        RememberPlace();
     } else if (event->type() == QEvent::Move && event->spontaneous() && !window->isVisible() && wanted) {
-        window->move(Place());
-    } else if (event->type() == QEvent::Show && !event->spontaneous() && wanted) {
-        MoveTo(*wanted);
+        // The window manager takes the frame away from a hidden window and may move the window by its size.
+        // That is not the user's doing.
+        MoveFrame();
+    } else if (event->type() == QEvent::Show && !event->spontaneous()) {
+        // A move() while the window was hidden counts, and so does one before the first show.
+        if (wanted ? WasMoved() : window->testAttribute(Qt::WA_Moved)) {
+            wanted = window->pos();
+        }
+        if (wanted) {
+            MoveTo(*wanted);
+        }
     }
     return QObject::eventFilter(watched, event);
 }
@@ -109,27 +138,25 @@ void WindowPlacement::Correct()
     if (!wanted || !native || !window->isVisible()) {
         return;
     }
-    // Under a window that was made anew with other flags the widget still counts with its old frame until it
-    // next hears of a move; only then do move() and pos() mean the frame that is there.
+    // After a change of flags the widget still counts with its old frame until it next hears of a move. Only
+    // then do move() and pos() mean the frame that is there.
     QMoveEvent refresh(native->position(), native->position());
     QCoreApplication::sendEvent(native, &refresh);
 
-    // Nor is a window that was hidden for the new flags always kept on top: a window manager that comes late
-    // to the hiding takes that away with it.
+    // A window manager that handles the hiding late also drops the flag of a window that is kept on top.
     if (window->windowFlags().testFlag(Qt::WindowStaysOnTopHint)) {
         native->setFlag(Qt::WindowStaysOnTopHint, false);
         native->setFlag(Qt::WindowStaysOnTopHint, true);
     }
 
-    // Its full size, too, is known only now.
-    const QPoint place = Place();
     const bool bFramed =
         window->windowFlags().testFlag(Qt::FramelessWindowHint) || !native->frameMargins().isNull();
+    const QPoint found = window->pos();
+    MoveFrame(); // the frame's full size, too, is known only now
     const bool bWasInPlace = bInPlace;
-    bInPlace = native->isExposed() && bFramed && window->pos() == place;
-    window->move(place);
-    if ((bInPlace && bWasInPlace) || timerCorrect.interval() >= msLastLook) {
-        wanted.reset();
+    bInPlace = native->isExposed() && bFramed && found == framePlaced;
+    if ((bInPlace && bWasInPlace) || timerCorrect.interval() >= msLastCheck) {
+        RememberPlace(); // as the window manager has it
     } else {
         timerCorrect.start(2 * timerCorrect.interval());
     }

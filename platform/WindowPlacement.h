@@ -9,8 +9,8 @@
 
 class QWidget;
 
-/// Where one top-level window stands: puts its frame at a place and keeps it there through the window
-/// manager's first handling of it, and begins drags.
+/// The position of one top-level window: puts its frame at a point, keeps it there while the window manager
+/// takes the window over, and begins drags.
 class WindowPlacement : public QObject
 {
     Q_OBJECT
@@ -19,21 +19,24 @@ public:
     /// @param window  top-level widget, becomes the parent
     explicit WindowPlacement(QWidget *window);
 
-    /// Puts the frame's top-left corner at a point of the desktop, now and once more shortly after the window
-    /// is (or has just been) shown, so that pos() equals it then. A place that no screen shows is pulled onto
-    /// the nearest screen. Does nothing where windows cannot choose their place.
+    /// Puts the frame's top-left corner at a point of the desktop: now, and again shortly after the window is
+    /// (or has just been) shown, so that pos() is that point then. A point that no screen shows is pulled
+    /// onto the nearest screen. Does nothing where windows cannot choose their position.
     void MoveTo(const QPoint &frameTopLeft);
 
-    /// To be called at the press that begins a drag. True if the compositor moves the window from here on
-    /// (Wayland); otherwise the caller moves it, and no move that is still pending gets in its way.
+    /// The position to store: that of the window, or the one asked for where it had to be pulled onto a
+    /// screen and the user has not moved the window since.
+    QPoint PositionToStore() const;
+
+    /// To be called at the mouse press that begins a drag. True if the compositor moves the window from here
+    /// on (Wayland); otherwise the caller moves it, and no pending correction interferes.
     bool StartDrag();
 
-    /// False on Wayland, where a window neither knows nor chooses its place: there is nothing to save or
-    /// restore.
+    /// False on Wayland, where a window neither knows nor chooses its position.
     static bool CanPlace();
 
-    /// The frame's top-left corner if the frame can be reached with the mouse on one of the screens'
-    /// available areas; otherwise the nearest one that brings it back.
+    /// The frame's top-left corner if the mouse can reach the frame in one of the screens' available areas;
+    /// otherwise the nearest point that brings it back.
     static QPoint Reachable(const QRect &frame, const QList<QRect> &screens);
 
 protected:
@@ -43,10 +46,16 @@ private slots:
     void Correct();
 
 private:
-    QPoint Place() const;
+    void MoveFrame();
+    void RememberPlace();
+    bool WasMoved() const;
 
     QWidget *window;
+    /// Where the window is wanted; nothing once the user has dragged it.
     std::optional<QPoint> wanted;
+    /// Where it was put for that: frame and client area.
+    QPoint framePlaced;
+    QPoint clientPlaced;
     bool bInPlace = false;
     QTimer timerCorrect;
 };

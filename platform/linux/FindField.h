@@ -10,6 +10,6 @@
 /// for more than 64 bits.
 std::optional<std::uint64_t> ParseNumber(std::string_view text);
 
-/// The number of the first line "NAME: NUMBER" or "NAME NUMBER" in a report of the kernel's: /proc/meminfo (KiB),
-/// /proc/vmstat (pages), memory.stat (bytes) and their like.
+/// The number of the first line "NAME: NUMBER" or "NAME NUMBER" in a report of the kernel's: /proc/meminfo
+/// (KiB), /proc/vmstat (pages), memory.stat (bytes) and their like.
 std::optional<std::uint64_t> FindField(std::string_view report, std::string_view name);

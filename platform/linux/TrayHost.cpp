@@ -17,7 +17,7 @@
 #include <xcb/xcb.h>
 
 static const QString watcherService = QStringLiteral("org.kde.StatusNotifierWatcher");
-static constexpr int msPatience = 100;
+static constexpr int msHostQuestion = 100;
 static constexpr int msUntilAbsent = 3000;
 
 using XcbReply = std::unique_ptr<void, decltype(&std::free)>;
@@ -45,19 +45,19 @@ static bool HasXEmbedTray()
         return false;
     }
     char *host = nullptr;
-    int nDisplay = 0;
-    int nScreen = 0;
-    xcb_parse_display(nullptr, &host, &nDisplay, &nScreen);
+    int display = 0;
+    int screen = 0;
+    xcb_parse_display(nullptr, &host, &display, &screen);
     std::free(host);
-    const xcb_atom_t selection = XcbAtom("_NET_SYSTEM_TRAY_S" + QByteArray::number(nScreen));
+    const xcb_atom_t selection = XcbAtom("_NET_SYSTEM_TRAY_S" + QByteArray::number(screen));
     auto *reply =
         xcb_get_selection_owner_reply(connection, xcb_get_selection_owner(connection, selection), nullptr);
     const XcbReply owner(reply, std::free);
     return reply && reply->owner != XCB_WINDOW_NONE;
 }
 
-/// The same question that Qt asks before it decides for StatusNotifierItem: a watcher alone, with no host to
-/// show the icons, does not count.
+/// What Qt asks before it decides for StatusNotifierItem: a watcher without a host that shows the icons does
+/// not count.
 static QDBusMessage HostQuestion()
 {
     auto question = QDBusMessage::createMethodCall(watcherService, QStringLiteral("/StatusNotifierWatcher"),
@@ -74,7 +74,7 @@ static bool IsYes(const QDBusMessage &reply)
            reply.arguments().value(0).value<QDBusVariant>().variant().toBool();
 }
 
-/// Waits, without a timer, for a tray of either kind to announce itself.
+/// Waits, without polling, for a tray of either kind to announce itself.
 class TrayWatch : public QObject, public QAbstractNativeEventFilter
 {
     Q_OBJECT
@@ -96,8 +96,7 @@ public:
 
     bool nativeEventFilter(const QByteArray &, void *message, qintptr *) override
     {
-        // Sent to the root window, whose structure events Qt has asked for, by each new owner of such a
-        // selection.
+        // Each new owner of a tray selection sends it to the root window, whose structure events Qt receives.
         const auto *event = static_cast<const xcb_client_message_event_t *>(message);
         if ((event->response_type & 0x7f) == XCB_CLIENT_MESSAGE && event->type == managerAtom) {
             QMetaObject::invokeMethod(this, "Check", Qt::QueuedConnection);
@@ -139,15 +138,18 @@ TrayHost::TrayHost(QObject *parent) : QObject(parent) {}
 
 void TrayHost::WhenAvailable(std::function<void()> ready)
 {
-    // The cheaper question first. Where both kinds are there, Qt takes StatusNotifierItem by itself.
-    if (HasXEmbedTray() ||
-        IsYes(QDBusConnection::sessionBus().call(HostQuestion(), QDBus::Block, msPatience))) {
+    const QString platform = QGuiApplication::platformName();
+    const bool bKnowsTrays =
+        platform == QLatin1String("xcb") || platform.startsWith(QLatin1String("wayland"));
+    // The cheaper question first. Where both kinds are there, Qt chooses StatusNotifierItem by itself.
+    if (!bKnowsTrays || HasXEmbedTray() ||
+        IsYes(QDBusConnection::sessionBus().call(HostQuestion(), QDBus::Block, msHostQuestion))) {
         ready();
         return;
     }
     auto *watch = new TrayWatch(std::move(ready), this);
     QTimer::singleShot(msUntilAbsent, watch, [this] { emit Absent(); });
-    // It may have come just before we began to listen, or be slow to answer.
+    // A tray may have appeared just before the watch began, or be slow to answer.
     watch->Check();
 }
 
@@ -160,4 +162,4 @@ void TrayHost::Attach(QSystemTrayIcon *icon)
     });
 }
 
-#include "TrayHostLinux.moc"
+#include "TrayHost.moc"

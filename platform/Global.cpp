@@ -1,7 +1,9 @@
-#include "platform/BundledResources.h"
+#include "platform/Global.h"
 
 #include <QCoreApplication>
 #include <QDir>
+
+const QString Global::VersionString = QStringLiteral("1.2.2");
 
 QString Global::BundledResourcesDirectory()
 {

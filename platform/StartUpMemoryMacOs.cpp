@@ -1,4 +1,0 @@
-#include "platform/StartUpMemory.h"
-
-// Nothing that is known to help here.
-void ReleaseStartUpCode() {}
