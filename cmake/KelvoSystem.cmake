@@ -1,4 +1,4 @@
-# Which system's files are built: Linux or MacOs. Systems differ by file choice only (FooLinux.cpp, FooMacOs.cpp).
+# Which system's files are built: Linux or MacOs. Systems differ by file choice only.
 if(CMAKE_SYSTEM_NAME STREQUAL "Linux")
     set(KELVO_SYSTEM "Linux")
 elseif(CMAKE_SYSTEM_NAME STREQUAL "Darwin")

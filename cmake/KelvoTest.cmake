@@ -1,6 +1,6 @@
 # kelvo_test(NAME LIBRARY SOURCES...): a QtTest program in a bundle of its own (BUILD/tests/NAME/bin/NAME with an empty
-# Resources beside bin), so that a test can put interpreters and helpers where the program looks for them while other
-# tests run. HOME, settings and runtime directory are private to the test, the language is fixed.
+# Resources beside bin), where a test can put a fake helper while other tests run. HOME, settings and runtime directory are
+# private to the test, the language is fixed.
 function(kelvo_test name library)
     set(bundle "${CMAKE_BINARY_DIR}/tests/${name}")
     add_executable(${name} ${ARGN})
