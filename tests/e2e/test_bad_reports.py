@@ -57,7 +57,7 @@ class BadReports(DesktopTest):
         for name, script, changes in INTERPRETERS:
             with self.subTest(name):
                 asked.unlink(missing_ok=True)
-                self.kelvo.install("osascript", f"echo >>'{asked}'; {script}")
+                self.kelvo.install("vm_stat", f"echo >>'{asked}'; {script}")
                 self.assertTrue(wait_for(lambda: asked.exists() and asked.stat().st_size > 1), "never asked")
                 self.assertBecomes(item.figures, {**FIGURES, **changes})
 
@@ -68,7 +68,7 @@ class BadReports(DesktopTest):
         for gigabytes, (name, spoil) in enumerate(SPOILED.items(), 2):
             with self.subTest(name):
                 before = len(os.listdir(descriptors))
-                spoil(self.kelvo.resources / "osascript")
+                spoil(self.kelvo.path / "vm_stat")
                 self.assertFalse(wait_for(lambda: item.figures() != expected, 5), "figures out of nothing")
                 # Qt loses a descriptor at a start that fails: that may happen once, not at every sample.
                 self.assertLessEqual(len(os.listdir(descriptors)), before + 1)

@@ -12,7 +12,6 @@ class Feedback(DesktopTest):
         # What opens a page in the user's browser, here only notes it.
         self.opened = self.kelvo.directory / "opened"
         self.kelvo.install("xdg-open", f"echo \"$1\" >>'{self.opened}'")
-        self.kelvo.environment["PATH"] = f"{self.kelvo.resources}:{self.desktop.env['PATH']}"
 
     def assertOpened(self, pages):
         self.assertBecomes(lambda: self.opened.read_text() if self.opened.exists() else "", pages)

@@ -1,4 +1,4 @@
-"""Kelvo as a user meets it: its windows, its settings, its interpreter."""
+"""Kelvo as a user meets it: its windows, its settings, and the programs that it finds."""
 import json
 import os
 import shutil
@@ -12,41 +12,42 @@ STATE_CHECKED, STATE_ENABLED, STATE_FOCUSED, STATE_SHOWING = 4, 8, 12, 25  # bit
 
 
 class Kelvo:
-    """A Kelvo installed on its own: DIR/bin/kelvo and, beside bin, DIR/Resources, where the tests put their fakes."""
+    """A Kelvo installed on its own: DIR/bin/kelvo, DIR/Resources with the helper, DIR/path first in its PATH."""
 
     def __init__(self, desktop, built):
         self.desktop = desktop
         self.directory = desktop.home / "app"
         self.program = self.directory / "bin" / "kelvo"
         self.resources = self.directory / "Resources"
-        self.program.parent.mkdir(parents=True)
-        self.resources.mkdir()
+        self.path = self.directory / "path"
+        for folder in self.program.parent, self.resources, self.path:
+            folder.mkdir(parents=True)
         shutil.copy2(built, self.program)
         self.built_resources = Path(built).parent.parent / "Resources"
         self.processes = []
-        self.environment = {}
+        self.environment = {"PATH": f"{self.path}:{desktop.env['PATH']}"}
 
     def use_built_resources(self):
-        """The real interpreter and helper, as built."""
+        """The real helper and the catalogues, as built."""
         shutil.copytree(self.built_resources, self.resources, dirs_exist_ok=True)
 
     def install(self, name, script):
-        """Puts a shell script into Resources as a program; beside and renamed, since an old one may be running."""
-        fresh = self.resources / (name + ".new")
+        """Puts a shell script where Kelvo finds this program; beside and renamed, since an old one may be running."""
+        folder = self.resources if name == "memfree" else self.path
+        fresh = folder / (name + ".new")
         fresh.write_text(f"#!/bin/sh\n{script}\n")
         fresh.chmod(0o755)
-        fresh.replace(self.resources / name)
+        fresh.replace(folder / name)
 
     def report(self, text):
-        """From here on the interpreter answers with this text, whatever it is asked."""
+        """From here on, and for a Kelvo that started with a vm_stat, vm_stat prints this text."""
         data = text if isinstance(text, bytes) else text.encode()
         (self.directory / "report.new").write_bytes(data)
         (self.directory / "report.new").replace(self.directory / "report")
-        script = "cat >/dev/null; echo >>'{0}/asked'; exec cat '{0}/report'"
-        self.install("osascript", script.format(self.directory))
+        self.install("vm_stat", "echo >>'{0}/asked'; exec cat '{0}/report'".format(self.directory))
 
     def wait_for_sample(self):
-        """Returns when Kelvo has certainly taken a sample that began after this call (not with another interpreter)."""
+        """Returns when Kelvo has certainly taken a sample that began after this call (with the vm_stat of report())."""
         asked = self.directory / "asked"
         before = asked.stat().st_size
         assert wait_for(lambda: asked.stat().st_size >= before + 2), "no sample is taken"
