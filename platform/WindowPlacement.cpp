@@ -72,7 +72,6 @@ QPoint WindowPlacement::PositionToStore() const
 
 bool WindowPlacement::StartDrag()
 {
-    wanted.reset();
     timerCorrect.stop();
     return !CanPlace() && window->windowHandle() && window->windowHandle()->startSystemMove();
 }

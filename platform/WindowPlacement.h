@@ -51,7 +51,7 @@ private:
     bool WasMoved() const;
 
     QWidget *window;
-    /// Where the window is wanted; nothing once the user has dragged it.
+    /// Where the window was asked to be; whether the user has moved it since, WasMoved() tells.
     std::optional<QPoint> wanted;
     /// Where it was put for that: frame and client area.
     QPoint framePlaced;
