@@ -11,11 +11,11 @@ TITLE_BAR = "Do not show window title bar"
 ON_TOP = "Keep main window on top of other windows"
 PIE, MONO = "Show pie chart on menubar", "Monocolor pie chart"
 LAUNCH = "Automatically launch Kelvo when I log in"
-AUTO_HIDE = "Automatically hide main window after freeing is completed"
 
 # From top to bottom, with the key that changes it.
 CONTROLS = {CLASSIC: "Right", TITLE_BAR: "space", "2 seconds": "Down", ON_TOP: "space", PIE: "space", MONO: "space",
-            LAUNCH: "space", "Hide main window when Kelvo starts up": "space", AUTO_HIDE: "space",
+            LAUNCH: "space", "Hide main window when Kelvo starts up": "space",
+            "Automatically hide main window after freeing is completed": "space",
             "Remind me to free memory when inactive memory ": "space", "reaches over": "Up"}
 AFTER = {"WindowStyle": 1, "NoTitleBar": True, "UpdateFrequency": 1, "StayOnTop": False, "PieChartIcon": True,
          "MonoColor": True, "AutoLaunch": True, "HideAtStartUp": True, "AutoHide": True, "Remind": True,
@@ -24,8 +24,7 @@ AFTER = {"WindowStyle": 1, "NoTitleBar": True, "UpdateFrequency": 1, "StayOnTop"
 
 class Preferences(DesktopTest):
     def open(self, record=None, **stored):
-        self.kelvo.store(record, **stored)
-        item = self.start()
+        item = super().open(record, **stored)
         self.show_panel(item)
         return item
 
@@ -44,10 +43,10 @@ class Preferences(DesktopTest):
         properties = self.desktop.run("xprop", "-id", self.kelvo.window(), "_NET_WM_STATE", "_NET_FRAME_EXTENTS")
         return "_NET_WM_STATE_ABOVE" in properties, "= 0, 0, 0, 0" in properties
 
-    def ground(self):
-        """The main window's own colour, or None while it is being made anew."""
+    def is_dark(self):
+        """The main window's own ground; None while the window is being made anew."""
         window = self.kelvo.window(0)
-        return window and self.desktop.screenshot(window).pixel(3, 3)
+        return max(self.desktop.screenshot(window).pixel(3, 3)) < 150 if window else None
 
     def test_keyboard(self):
         self.open({"PieChartIcon": False})
@@ -57,12 +56,11 @@ class Preferences(DesktopTest):
             # A main window that is made anew has the keyboard for a moment, and swallows a key.
             wait_for(lambda: self.key("Tab") or wait_for(lambda: self.focus() not in ([], [name]), 2))
         self.assertBecomes(self.focus, [DARK])  # round; the two styles are one stop
-        self.assertEqual(self.kelvo.stop(), 0)
-        self.assertEqual(self.kelvo.settings()["Application/Settings"], AFTER)
+        self.assertEqual(self.stop()["Application/Settings"], AFTER)
 
         # All of it is there again at the next start.
         item = self.start()
-        self.assertFalse(self.kelvo.window(1), "the main window is not hidden")
+        self.assertFalse(self.kelvo.window(0.5), "the main window is not hidden")
         self.assertBecomes(lambda: item.icon().width, 32)
         self.show_panel(item)
         boxes = {name for name, key in CONTROLS.items() if key == "space" and name != ON_TOP}
@@ -70,22 +68,32 @@ class Preferences(DesktopTest):
         self.assertIn("5 seconds", self.kelvo.texts())
         item.activate()
         self.assertBecomes(self.window_is, (False, True))
-        self.assertBecomes(lambda: max(self.ground() or [255]) < 150, True)
-        self.assertEqual(self.kelvo.stop(), 0)
-        self.assertEqual(self.kelvo.settings()["Application/Settings"], AFTER)
+        self.assertBecomes(self.is_dark, True)
+        self.assertEqual(self.stop()["Application/Settings"], AFTER)
 
     def test_window(self):
-        self.open(**{"MainWindow/Position": [400, 200]})
-        self.assertBecomes(self.window_is, (True, False))
+        item = self.open(**{"MainWindow/Position": [600, 200]})
+        panel, window = self.kelvo.window(name="Preferences"), self.kelvo.window()
+
+        def topmost():
+            return str(int(self.desktop.run("xprop", "-root", "_NET_CLIENT_LIST_STACKING").split()[-1], 16))
+
+        def clear():
+            x, _, width, _ = self.desktop.place(panel)
+            return x + width <= 600 and self.desktop.on_screen(panel)
+        self.assertTrue(wait_for(clear), "the panel covers the window")
         for box, wanted in ((ON_TOP, (False, False)), (TITLE_BAR, (False, True)), (ON_TOP, (True, True)),
-                            (TITLE_BAR, (True, False))):
+                            (TITLE_BAR, (True, False)), (ON_TOP, (False, False))):
             with self.subTest(box, wanted=wanted):
                 self.kelvo.press(box)
                 self.assertBecomes(self.window_is, wanted)
-                self.assertBecomes(lambda: self.desktop.place(self.kelvo.window())[:2], (400, 200))
-        for style, dark in (DARK, True), (CLASSIC, False):
+                self.assertBecomes(lambda: self.desktop.place(self.kelvo.window())[:2], (600, 200))
+        for style in DARK, CLASSIC:
             self.kelvo.press(style)
-            self.assertBecomes(lambda: max(self.ground() or [150]) < 150, dark)
+            self.assertBecomes(self.is_dark, style == DARK)
+        for show, window in (item.activate, self.kelvo.window()), (lambda: self.show_panel(item), panel):
+            show()
+            self.assertBecomes(topmost, window)
 
     def test_icon(self):
         item = self.open()
@@ -95,56 +103,32 @@ class Preferences(DesktopTest):
                 if box:
                     self.kelvo.press(box)
                 self.assertBecomes(lambda: item.icon().width, width)
-                icon = item.icon()
-                pixels = (icon.pixel(x, y) for x in range(width) for y in range(width))
-                self.assertEqual(all(red == green == blue for _, red, green, blue in pixels), grey)
+                self.assertEqual(all(red == green == blue for _, red, green, blue in item.icon().pixels()), grey)
                 self.assertEqual(MONO in self.kelvo.having(STATE_ENABLED), mono_shown)
 
     def test_update_frequency(self):
         self.open()
-        calls = self.kelvo.directory / "asked"
-
-        def next_call():
-            before = calls.stat().st_size
-            self.assertTrue(wait_for(lambda: calls.stat().st_size > before), "no sample is taken")
-            return calls.stat().st_mtime
-
         self.key("Tab", "Tab")
         self.assertBecomes(self.focus, ["2 seconds"])
         for key, period in ("Down", 5), ("Up", 2):
-            next_call()  # the next one is some time off
+            self.kelvo.wait_for_sample(1)  # the next one is some time off
             self.key(key)
-            time.sleep(1)  # what a change asks for itself is over
-            self.assertAlmostEqual(-(next_call() - next_call()), period, delta=0.5)
-
-    def test_hiding_after_a_run(self):
-        self.kelvo.install("memfree", "echo freed")
-        self.open(**{"MainWindow/Warning": True})
-        self.kelvo.press("Free Memory")
-        self.assertTrue(wait_for(lambda: "Just freed:" in self.kelvo.texts()))
-        gone = lambda: not self.kelvo.window(0)  # noqa: E731
-        self.assertFalse(wait_for(gone, 1.5), "it hides unasked")
-        self.kelvo.press(AUTO_HIDE)
-        self.assertFalse(wait_for(gone, 1.5), "it hides without a run")
-        self.kelvo.press("Free Memory")
-        self.assertTrue(wait_for(gone), "it stays")
+            self.kelvo.wait_for_sample(1)  # which a change asks for itself
+            begin = time.monotonic()
+            self.kelvo.wait_for_sample(1)
+            self.assertAlmostEqual(time.monotonic() - begin, period, delta=0.5)
 
     def test_launching_at_login(self):
-        # An awkward place, and one that reads like a piece of the script in which it is sent.
-        awkward = self.desktop.home / 'a"b\\c d%é", kind:application}'
-        shutil.move(self.kelvo.directory, awkward)
-        self.kelvo.directory, self.kelvo.resources = awkward, awkward / "Resources"
-        self.kelvo.program = awkward / "bin/kelvo"
-        self.kelvo.use_built_resources()
+        awkward = self.desktop.home / 'a"b c$d%é'
+        awkward.mkdir()
+        self.kelvo.program = shutil.copy2(self.kelvo.program, awkward)
         entry = self.desktop.home / ".config/autostart/Kelvo.desktop"
         self.open()
         self.assertFalse(entry.exists())
         for there in True, False, True:
             self.kelvo.press(LAUNCH)
             self.assertBecomes(entry.exists, there)
-        self.assertEqual(self.kelvo.stop(), 0)
-        self.assertTrue(entry.exists())
-
+        self.stop()
         # What the session does at the next login.
         watcher = self.desktop.watchers[0]
         watcher.items.clear()
@@ -152,29 +136,6 @@ class Preferences(DesktopTest):
         self.assertTrue(watcher.item(), "it starts nothing")
         watcher.items[0].click("Kelvo Preferences")
         self.assertBecomes(lambda: LAUNCH in self.kelvo.having(STATE_CHECKED), True)
-
-    def test_panel_is_not_covered(self):
-        for place in (40, 40), (700, 60), (300, 560):
-            self.open(**{"MainWindow/Position": place})
-
-            def clear():
-                panel = self.kelvo.window(name="Preferences")
-                (x, _, width, _), (main_x, _, main_width, _) = map(self.desktop.place, (panel, self.kelvo.window()))
-                return self.desktop.on_screen(panel) and (x >= main_x + main_width or x + width <= main_x)
-            self.assertTrue(wait_for(clear), place)
-            self.kelvo.stop()
-
-    def test_windows_are_raised(self):
-        item = self.open({"StayOnTop": False})
-        panel, window = self.kelvo.window(name="Preferences"), self.kelvo.window()
-
-        def topmost():
-            return str(int(self.desktop.run("xprop", "-root", "_NET_CLIENT_LIST_STACKING").split()[-1], 16))
-        self.assertBecomes(topmost, panel)
-        item.activate()
-        self.assertBecomes(topmost, window)
-        self.show_panel(item)
-        self.assertBecomes(topmost, panel)
 
 
 unittest.main()

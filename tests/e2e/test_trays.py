@@ -1,14 +1,48 @@
-"""The status icon in both kinds of tray, in a tray that comes late, and on a desktop without one."""
-import time
+"""The status icon and its menu: in both kinds of tray, in one that comes late or anew, and what clicks on it do."""
 import unittest
+from collections import Counter
 
-from case import DesktopTest, wait_for
+from case import FIGURES, PAGES, DesktopTest, report, wait_for
 
-MENU = ["Free: 1.00 GB", "Wired: 1.99 GB", "Active: 3.00 GB", "Inactive: 2.00 GB", "", "Free Memory Now!", "",
-        "Kelvo Preferences...", "About Kelvo", "", "Quit"]
+MENU = ["Free: 1.00 GB", "Wired: 1.99 GB", "Active: 3.00 GB", "Inactive: 2.00 GB", "-", "Free Memory Now!", "-",
+        "Kelvo Preferences...", "About Kelvo", "-", "Quit"]
+PIE = {(255, 0, 255, 0), (255, 255, 255, 0), (255, 0, 0, 255), (255, 255, 0, 0)}
+CLEAR = (0, 0, 0, 0)
 
 
 class Trays(DesktopTest):
+    def test_menu_and_pie(self):
+        item = self.start()
+        self.assertEqual((item.tool_tip(), item.texts()), ("Kelvo", MENU))
+        self.assertBecomes(lambda: item.icon().width, 64)
+        counted = Counter(item.icon().pixels())
+        self.assertEqual({color for color in counted if counted[color] > 200}, PIE | {CLEAR})
+        self.kelvo.wait_for_sample()
+        item.signals.clear()
+        self.kelvo.wait_for_sample()
+        self.assertEqual(item.signals, [], "nothing has changed")
+        self.kelvo.report(report(free=2 * PAGES["free"]))
+        self.assertBecomes(item.figures, {**FIGURES, "Free": "2.00 GB"})
+        self.assertBecomes(lambda: item.signals.count("NewIcon"), 1)
+
+    def test_ways_to_the_window(self):
+        item = self.open({"HideAtStartUp": True})
+        running = self.kelvo.processes[0]
+        self.assertFalse(self.kelvo.window(0.5))
+        ways = [item.activate, lambda: item.click("Free: "), lambda: item.click("Inactive"),
+                *(lambda words=words: self.assertEqual(self.kelvo.run(*words), 0)
+                  for words in ([], ["-q"], ["x" * 100000, "", "ä\n" * 30000], ["--help", "-platform"]))]
+        for number, show in enumerate(ways):
+            with self.subTest(number):
+                show()
+                self.kelvo.processes = [running]
+                self.assertTrue(self.kelvo.window(), "no window")
+                self.close_window()
+                self.assertIsNone(running.poll(), "Kelvo ends with its last window")
+        self.assertEqual(len(self.desktop.watchers[0].items), 1, "a second launch has an icon of its own")
+
+
+class Others(DesktopTest):
     programs = []
 
     def setUp(self):
@@ -20,10 +54,10 @@ class Trays(DesktopTest):
         self.kelvo.start()
         icon = self.kelvo.tray_window()
         self.assertTrue(icon, "no icon in the tray")
-        self.assertFalse(self.kelvo.window(1))
+        self.assertFalse(self.kelvo.window(0.5))
         self.desktop.click(icon)
         self.assertTrue(self.kelvo.window(), "a left click shows no window")
-        self.assertEqual(self.kelvo.popup(lambda: self.desktop.click(icon, button=3)), MENU)
+        self.assertEqual(self.kelvo.popup(lambda: self.desktop.click(icon, button=3)), [text.strip("-") for text in MENU])
         self.desktop.run("xdotool", "key", "Escape")
         # It is alive: the pie comes with the first timed sample.
         x, y, width, height = self.desktop.place(icon)
@@ -51,11 +85,9 @@ class Trays(DesktopTest):
         self.assertTrue(tray.item(), "no icon")
         for _ in range(2):
             tray.close()
-            time.sleep(0.5)
             tray = self.desktop.watcher()
-            item = tray.item()
-            self.assertTrue(item, "the icon does not come back")
-            self.assertEqual((item.tool_tip(), len(item.texts())), ("Kelvo", len(MENU)))
+            self.assertTrue(tray.item(), "the icon does not come back")
+            self.assertEqual((tray.item().tool_tip(), tray.item().texts()), ("Kelvo", MENU))
 
 
 unittest.main()

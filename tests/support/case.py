@@ -43,6 +43,16 @@ class DesktopTest(unittest.TestCase):
         self.assertTrue(item, "no status icon")
         return item
 
+    def open(self, record=None, **stored):
+        """The same with these settings stored."""
+        self.kelvo.store(record, **stored)
+        return self.start()
+
+    def stop(self):
+        """Ends Kelvo as a session does: what it has stored."""
+        self.assertEqual(self.kelvo.stop(), 0)
+        return self.kelvo.settings()
+
     def assertBecomes(self, what, wanted):
         """what() gives the wanted value, if not at once."""
         wait_for(lambda: what() == wanted)

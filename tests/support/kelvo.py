@@ -31,26 +31,31 @@ class Kelvo:
         """The real helper and the catalogues, as built."""
         shutil.copytree(self.built_resources, self.resources, dirs_exist_ok=True)
 
-    def install(self, name, script):
-        """Puts a shell script where Kelvo finds this program; beside and renamed, since an old one may be running."""
-        folder = self.resources if name == "memfree" else self.path
-        fresh = folder / (name + ".new")
-        fresh.write_text(f"#!/bin/sh\n{script}\n")
+    @staticmethod
+    def put(path, data):
+        """Writes a program or a file; beside and renamed, since an old one may be in use."""
+        fresh = path.with_name(path.name + ".new")
+        fresh.write_bytes(data if isinstance(data, bytes) else data.encode())
         fresh.chmod(0o755)
-        fresh.replace(folder / name)
+        fresh.replace(path)
 
-    def report(self, text):
-        """From here on, and for a Kelvo that started with a vm_stat, vm_stat prints this text."""
-        data = text if isinstance(text, bytes) else text.encode()
-        (self.directory / "report.new").write_bytes(data)
-        (self.directory / "report.new").replace(self.directory / "report")
-        self.install("vm_stat", "echo >>'{0}/asked'; exec cat '{0}/report'".format(self.directory))
+    def install(self, name, script):
+        """Puts a shell script where Kelvo finds this program."""
+        self.put((self.resources if name == "memfree" else self.path) / name, f"#!/bin/sh\n{script}\n")
 
-    def wait_for_sample(self):
-        """Returns when Kelvo has certainly taken a sample that began after this call (with the vm_stat of report())."""
-        asked = self.directory / "asked"
-        before = asked.stat().st_size
-        assert wait_for(lambda: asked.stat().st_size >= before + 2), "no sample is taken"
+    def report(self, text, then=""):
+        """From here on vm_stat prints this text, and then does what is asked; Kelvo must have found it at its start."""
+        self.put(self.directory / "report", text)
+        self.install("vm_stat", f"echo >>'{self.directory}/asked'; cat '{self.directory}/report'; {then}")
+
+    def asked(self):
+        """How often vm_stat has been asked."""
+        return (self.directory / "asked").stat().st_size
+
+    def wait_for_sample(self, times=2):
+        """Returns when vm_stat has been asked again; if twice, Kelvo has certainly shown the first answer."""
+        before = self.asked()
+        assert wait_for(lambda: self.asked() >= before + times), "no sample is taken"
 
     def start(self, *arguments, **environment):
         _ = self.desktop.accessibility  # there first, so that this Kelvo knows from the start what we listen to
@@ -62,8 +67,7 @@ class Kelvo:
     def move_clock(self, seconds):
         """Puts the clock of every Kelvo started after the first such call so far ahead; its timers notice at once."""
         clock = self.directory / "clock"
-        clock.with_suffix(".new").write_text(f"+{seconds}s\n")
-        clock.with_suffix(".new").replace(clock)
+        self.put(clock, f"+{seconds}s\n")
         self.environment |= {"LD_PRELOAD": "/usr/$LIB/faketime/libfaketimeMT.so.1", "FAKETIME_NO_CACHE": "1",
                              "FAKETIME_DISABLE_SHM": "1", "FAKETIME_TIMESTAMP_FILE": str(clock),
                              "ASAN_OPTIONS": "detect_leaks=0:verify_asan_link_order=0"}
@@ -76,6 +80,12 @@ class Kelvo:
         """Ends the copy started last: its exit status."""
         self.processes[-1].send_signal(how)
         return self.processes[-1].wait(20)
+
+    def children(self, name="."):
+        """The processes, living ones, that the copy started last has started itself, by a piece of their command."""
+        own = str(self.processes[-1].pid)  # and its session's number
+        found = self.desktop.run("pgrep", "-s", own, "-r", "DRST", "-f", name, check=False).split()
+        return [pid for pid in found if pid != own]
 
     @property
     def settings_file(self):

@@ -24,6 +24,9 @@ class Picture:
         at = (int(y) * self.width + int(x)) * self.depth
         return tuple(self.data[at:at + self.depth])
 
+    def pixels(self):
+        return list(zip(*[iter(self.data)] * self.depth))
+
 
 class Watcher:
     """The least that a StatusNotifierItem tray consists of: it remembers the items that register."""
