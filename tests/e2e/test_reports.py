@@ -8,15 +8,6 @@ from case import FIGURES, PAGES, DesktopTest, report, wait_for
 # (report, what vm_stat does then): none of them counts, whatever it says of inactive memory.
 BAD = [(bytes(range(256)) * 64 + report(inactive=256).encode(), ""), (report(inactive=512), "exit 1"),
        (report(inactive=768) + "Pages of nothing: 0.\n" * 60000, ""), (report(inactive=1024), "kill -9 $$")]
-# (report, what vm_stat does then, what it changes about the figures before)
-ODD = [("Pages free: 768.\n", "sleep 0.3; echo 'Pages active: 512.'", {"Free": "3.0 MB", "Active": "2.0 MB"}),
-       ("Pages free: -3.", "", {"Free": "-12,288 bytes"}), (report(free=1792)[:30], "", {"Free": "68 KB"}),
-       (report(), "", FIGURES)]
-
-
-def gigabytes(text):
-    number, unit = text.split()
-    return float(number.replace(",", "")) / {"GB": 1, "MB": 2**10, "KB": 2**20}[unit]
 
 
 class Reports(DesktopTest):
@@ -26,17 +17,13 @@ class Reports(DesktopTest):
         self.assertTrue(self.kelvo.window())
         self.assertEqual(item.figures(), {name: "0 bytes" for name in FIGURES})
         self.assertEqual(item.icon().width, 16, "a pie of nothing")
-        self.assertEqual(self.kelvo.labels()["Total"], "5.1 MB")
         self.kelvo.report(report())
         self.assertBecomes(item.figures, FIGURES)
         for text, then in BAD:
             self.kelvo.report(text, then)
             self.kelvo.wait_for_sample(1)
-        expected = dict(FIGURES)
-        for text, then, changes in ODD:
-            self.kelvo.report(text, then)
-            expected.update(changes)
-            self.assertBecomes(item.figures, expected)
+        self.kelvo.report("Pages free: -3.\n", "sleep 0.3; echo 'Pages active: 512.'")
+        self.assertBecomes(item.figures, {**FIGURES, "Free": "-12,288 bytes", "Active": "2.0 MB"})
 
     def test_hanging(self):
         """It has ten seconds, and ends then with everything it started."""
@@ -59,12 +46,8 @@ class Reports(DesktopTest):
             taken = b"x" * size  # noqa: F841
             self.assertTrue(wait_for(lambda: item.figures()["Free"] != before), "it does not follow")
         self.assertEqual((self.started(), self.kelvo.children()), (started, []), "a process for a sample")
-        kib = dict(re.findall(r"(\S+): +(\d+)", Path("/proc/meminfo").read_text()))
-        total = int(kib["MemTotal"]) / 2**20
-        figures = {name: gigabytes(text) for name, text in item.figures().items()}
-        self.assertAlmostEqual(sum(figures.values()), total, delta=0.021)
-        for name, counted in ("Free", "MemFree"), ("Inactive", "Inactive(file)"):  # other programs go on while we look
-            self.assertAlmostEqual(figures[name], int(kib[counted]) / 2**20, delta=total / 10)
+        total = int(re.search(r"MemTotal: +(\d+)", Path("/proc/meminfo").read_text())[1]) / 2**20
+        self.assertAlmostEqual(float(self.kelvo.labels()["Total"].split()[0]), total, delta=0.011)
 
     def test_no_vm_stat(self):
         (self.kelvo.path / "vm_stat").unlink()

@@ -36,10 +36,10 @@ class Desktop(AbstractContextManager):
                      "QT_LINUX_ACCESSIBILITY_ALWAYS_ON": "1"}
         try:
             self.env["DISPLAY"] = ":" + self._announced(
-                "Xvfb", "-screen", "0", f"{size}x24", "-nolisten", "tcp", "-ac", "-noreset", "-displayfd", "FD")
+                "Xvfb", "-screen", "0", f"{size}x24", "-nolisten", "tcp", "-ac", "-noreset", "-displayfd", "1")
             self.env["DBUS_SESSION_BUS_ADDRESS"] = self._announced(
                 "dbus-daemon", "--session", "--nofork", "--nopidfile", f"--address=unix:path={runtime}/bus",
-                "--print-address=FD")
+                "--print-address")
             for program in programs:
                 getattr(self, program)()
         except BaseException:
@@ -51,11 +51,11 @@ class Desktop(AbstractContextManager):
 
     def spawn(self, *command, log="desktop.log", **options):
         """Starts a program that dies with us, whatever becomes of us; what it prints goes to a log in the home."""
-        options.setdefault("env", self.env)
         with open(self.home / log, "ab") as output:
             self.spawned.append(subprocess.Popen(
-                [str(word) for word in command], stdin=subprocess.DEVNULL, stdout=output, stderr=output,
-                start_new_session=True, preexec_fn=lambda: libc.prctl(PR_SET_PDEATHSIG, signal.SIGKILL), **options))
+                [str(word) for word in command], stdin=subprocess.DEVNULL, stderr=output, start_new_session=True,
+                preexec_fn=lambda: libc.prctl(PR_SET_PDEATHSIG, signal.SIGKILL),
+                **{"env": self.env, "stdout": output, **options}))
         return self.spawned[-1]
 
     def run(self, *command, check=True):
@@ -67,12 +67,9 @@ class Desktop(AbstractContextManager):
         return result.stdout.decode(errors="replace")
 
     def _announced(self, *command):
-        """Starts a server that announces its address on a descriptor, FD in its last argument: the address."""
-        reading, writing = os.pipe()
-        self.spawn(*command[:-1], command[-1].replace("FD", str(writing)), pass_fds=[writing])
-        os.close(writing)
-        with os.fdopen(reading) as announcement:
-            line = announcement.readline().strip()
+        """Starts a server that announces its address on its standard output: the address."""
+        with self.spawn(*command, stdout=subprocess.PIPE).stdout as announcement:
+            line = announcement.readline().decode().strip()
         if not line:
             raise RuntimeError(f"{command[0]} does not start")
         return line
@@ -141,8 +138,8 @@ class Desktop(AbstractContextManager):
         """The screen, or a window, as pixels of (red, green, blue)."""
         data = subprocess.run(["import", "-window", window, "-depth", "8", "ppm:-"], env=self.env, check=True,
                               stdout=subprocess.PIPE).stdout
-        width, height, start = (lambda m: (int(m[1]), int(m[2]), m.end()))(re.match(rb"P6\s(\d+)\s(\d+)\s255\s", data))
-        return Picture(width, height, data[start:])
+        _, size, _, pixels = data.split(b"\n", 3)
+        return Picture(*map(int, size.split()), pixels)
 
     def click(self, window, button=1):
         """Clicks into the middle of a window."""
@@ -162,12 +159,10 @@ class Desktop(AbstractContextManager):
         x, y, width, height = self.place(window)
         return x >= 0 and y >= 0 and x + width <= 1024 and y + height <= 768
 
-    def drag(self, x, y):
-        """Drags from a place on the screen by a hundred pixels to the right and down, in small steps."""
-        self.run("xdotool", "mousemove", x, y, "sleep", 0.2, "mousedown", 1)
-        for _ in range(10):
-            self.run("xdotool", "mousemove_relative", 10, 10, "sleep", 0.02)
-        self.run("xdotool", "mouseup", 1)
+    def drag(self, *place):
+        """Drags from a place, as xdotool knows it, by a hundred pixels to the right and down, in small steps."""
+        self.run("xdotool", "mousemove", *place, "sleep", 0.2, "mousedown", 1,
+                 *10 * ("mousemove_relative", 10, 10, "sleep", 0.02), "mouseup", 1)
 
     def close(self):
         """Ends everything that was started here, also what has detached itself, and removes the home."""

@@ -24,7 +24,7 @@ class Kelvo:
             folder.mkdir(parents=True)
         shutil.copy2(built, self.program)
         self.built_resources = Path(built).parent.parent / "Resources"
-        self.processes = []
+        self.processes, self.reports = [], 0
         self.environment = {"PATH": f"{self.path}:{desktop.env['PATH']}"}
 
     def use_built_resources(self):
@@ -45,8 +45,9 @@ class Kelvo:
 
     def report(self, text, then=""):
         """From here on vm_stat prints this text, and then does what is asked; Kelvo must have found it at its start."""
-        self.put(self.directory / "report", text)
-        self.install("vm_stat", f"echo >>'{self.directory}/asked'; cat '{self.directory}/report'; {then}")
+        self.reports += 1  # each in a file of its own: a vm_stat that runs already goes on printing its own
+        self.put(self.directory / f"report-{self.reports}", text)
+        self.install("vm_stat", f"echo >>'{self.directory}/asked'; cat '{self.directory}/report-{self.reports}'; {then}")
 
     def asked(self):
         """How often vm_stat has been asked."""

@@ -4,11 +4,7 @@ from bus import Bus, Gio, GLib, wait_for
 WATCHER = "org.kde.StatusNotifierWatcher"
 WATCHER_XML = f"""<node><interface name="{WATCHER}">
 <method name="RegisterStatusNotifierItem"><arg type="s" direction="in"/></method>
-<method name="RegisterStatusNotifierHost"><arg type="s" direction="in"/></method>
-<property name="RegisteredStatusNotifierItems" type="as" access="read"/>
 <property name="IsStatusNotifierHostRegistered" type="b" access="read"/>
-<property name="ProtocolVersion" type="i" access="read"/>
-<signal name="StatusNotifierItemRegistered"><arg type="s"/></signal>
 <signal name="StatusNotifierHostRegistered"/>
 </interface></node>"""
 
@@ -44,10 +40,8 @@ class Watcher:
             self.items.append(TrayItem(self.bus, arguments.unpack()[0]))
         invocation.return_value(None)
 
-    def _read(self, _connection, _sender, _path, _interface, prop):
-        return {"RegisteredStatusNotifierItems": GLib.Variant("as", [item.name for item in self.items]),
-                "IsStatusNotifierHostRegistered": GLib.Variant("b", self.hosted),
-                "ProtocolVersion": GLib.Variant("i", 0)}[prop]
+    def _read(self, *_):
+        return GLib.Variant("b", self.hosted)
 
     def host(self):
         """Something that shows the items begins to work."""
@@ -79,12 +73,10 @@ class TrayItem:
     def tool_tip(self):
         return self.get("ToolTip")[2]
 
-    def icons(self):
-        """The icon's pictures in several sizes, its own one first: pixels of (alpha, red, green, blue)."""
-        return [Picture(width, height, bytes(data)) for width, height, data in self.get("IconPixmap")]
-
     def icon(self):
-        return self.icons()[0]
+        """The icon in its own size: pixels of (alpha, red, green, blue)."""
+        width, height, data = self.get("IconPixmap")[0]
+        return Picture(width, height, bytes(data))
 
     def activate(self):
         """The left click."""
