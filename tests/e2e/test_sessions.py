@@ -1,13 +1,19 @@
-"""Sessions and what remains of them: their ends, one Kelvo in each, spoiled settings, and Wayland."""
+"""Sessions: where they find Kelvo, one copy for all, what their ends leave, and Wayland."""
 import json
 import os
 import signal
 import time
 import unittest
+from pathlib import Path
 
 from case import LABELS, DesktopTest, wait_for
 
 CHOSEN = {"RemindThreshold": 2.5, "UpdateFrequency": 1, "NoTitleBar": True}
+
+
+def entry(path):
+    """What a desktop entry says."""
+    return dict(line.split("=", 1) for line in path.read_text().splitlines() if "=" in line)
 
 
 class Sessions(DesktopTest):
@@ -19,9 +25,9 @@ class Sessions(DesktopTest):
         self.assertEqual(len(stored) == 11, saved)  # what was not stored before has been added
 
 
-class Ends(Sessions):
+class X11(Sessions):
     def test_ends_that_save(self):
-        ends = {"Quit": lambda: self.desktop.watchers[-1].items[0].click("Quit"),
+        ends = {"Quit": lambda: self.desktop.watchers[0].items[0].click("Quit"),
                 **{number.name: lambda number=number: self.kelvo.processes[-1].send_signal(number)
                    for number in (signal.SIGTERM, signal.SIGINT, signal.SIGHUP)},
                 "the display goes": self.desktop.spawned[0].kill}
@@ -35,27 +41,11 @@ class Ends(Sessions):
                 self.assertIn("MainWindow/Position", self.kelvo.settings())
 
     def test_quick_quit(self):
-        self.kelvo.store(CHOSEN)
         self.assertEqual(self.kelvo.run("-q"), 0)
         self.assertEqual(self.desktop.watchers[0].items, [])
-        # Even this copy stores its record, and it has none: the next start has the defaults.
-        self.assertEqual(self.kelvo.settings()["Application/Settings"], {})
         self.start("-q", "x")
         self.assertTrue(self.kelvo.window())
 
-    def test_spoiled_settings(self):
-        self.kelvo.store(CHOSEN, **{"MainWindow/Position": [200, 150]})
-        good = self.kelvo.settings_file.read_bytes()
-        for content in (good[:good.index(b"Settings=") + 100], bytes(range(256)) * 40,
-                        b"[Application]\nSettings=hello\nStartCount=x\n[MainWindow]\nPosition=here\nWarning=@Point(1 2)\n"):
-            with self.subTest(content[:60]):
-                self.kelvo.settings_file.write_bytes(content)
-                self.start()
-                self.assertTrue(self.kelvo.window(), "not even a window")
-                self.assertEqual(len(self.stop()["Application/Settings"]), 11)
-
-
-class OneForAll(Sessions):
     def test_many_at_once(self):
         launched = [self.kelvo.start() for _ in range(50)]
         self.assertTrue(wait_for(lambda: sum(process.poll() is None for process in launched) == 1, 120))
@@ -65,22 +55,46 @@ class OneForAll(Sessions):
         self.assertEqual(len(self.desktop.watchers[0].items), 1)
         self.assertEqual(len(self.stop()["Application/Settings"]), 11)
 
-    def test_hung_copy(self):
+    def test_hung_and_killed(self):
         self.start()
-        running = self.kelvo.processes[0]
-        running.send_signal(signal.SIGSTOP)
+        hung = self.kelvo.processes[0]
+        hung.send_signal(signal.SIGSTOP)
         begin = time.monotonic()
         self.assertEqual(self.kelvo.run(), 1)
         self.assertTrue(4.9 < time.monotonic() - begin < 15, "it is given five seconds")
-        running.send_signal(signal.SIGCONT)
+        hung.send_signal(signal.SIGCONT)
         self.assertEqual(self.kelvo.run(), 0)
-
-    def test_after_a_kill(self):
-        for _ in range(2):
-            self.start()
-            self.kelvo.stop(signal.SIGKILL)
+        hung.kill()
+        hung.wait()
         self.start()
         self.assertEqual(self.kelvo.run(), 0)
+
+
+class Installed(DesktopTest):
+    """As `cmake --install` or a package put it there: found, started and recognised by the desktop."""
+
+    def test_installed(self):
+        top = Path(os.environ["KELVO"]).parents[1]
+        prefix = top.parents[1]
+        if (top / "CMakeCache.txt").exists():
+            # Installed from the build tree, and then moved: nothing may know where it is.
+            self.desktop.run("cmake", "--install", top, "--prefix", self.desktop.home / "first")
+            prefix = (self.desktop.home / "first").rename(self.desktop.home / "here now")
+        known_icons = [path.stem for path in (prefix / "share/icons/hicolor").glob("*/apps/*")]
+
+        self.kelvo.program = prefix / "bin/kelvo"  # a link
+        (self.kelvo.path / "vm_stat").unlink()
+        item = self.open({"AutoLaunch": True})
+        self.assertTrue(wait_for(lambda: item.figures().get("Free", "0 bytes") != "0 bytes"), "no figures")
+        self.desktop.run(prefix / "lib/kelvo/Resources/memfree", "--help")
+
+        name, of_class = self.desktop.run("xprop", "-id", self.kelvo.window(), "WM_CLASS").split('"')[1::2]
+        known = entry(prefix / f"share/applications/{name}.desktop")
+        self.assertEqual(known["StartupWMClass"], of_class)
+        self.assertTrue(os.access(prefix / "bin" / known["Exec"], os.X_OK))
+        login = entry(self.desktop.home / ".config/autostart/Kelvo.desktop")
+        self.assertEqual(login["TryExec"], str(prefix / "lib/kelvo/bin/kelvo"))
+        self.assertLessEqual({known["Icon"], login["Icon"]}, set(known_icons))
 
 
 class Wayland(Sessions):
@@ -89,11 +103,10 @@ class Wayland(Sessions):
 
     def place(self):
         """Kelvo's window as (x, y, width, height); None if it is not shown."""
-        def search(node):
-            if node.get("app_id") == "kelvo":
-                return tuple(node["rect"][key] for key in ("x", "y", "width", "height"))
-            return next(filter(None, map(search, node["nodes"] + node["floating_nodes"])), None)
-        return search(json.loads(self.desktop.run("swaymsg", "-t", "get_tree")))
+        windows = []
+        json.loads(self.desktop.run("swaymsg", "-t", "get_tree"), object_hook=lambda node: windows.append(
+            node["rect"]) if node.get("app_id") == "kelvo" else node)
+        return tuple(windows[0][key] for key in ("x", "y", "width", "height")) if windows else None
 
     def test_window(self):
         item = self.open(CHOSEN, **{"MainWindow/Position": [200, 150]})

@@ -1,4 +1,4 @@
-// settings_tool FILE [JSON]: prints Kelvo's stored settings as JSON; with JSON, stores its keys first. The
+// settings_tool FILE JSON: stores the keys of the JSON, and prints everything that is stored then. The
 // end-to-end tests so read and write what the program itself does. A list of two numbers stands for a point.
 
 #include <QJsonDocument>
@@ -7,10 +7,10 @@
 
 #include <cstdio>
 
-int main(int argc, char *argv[])
+int main(int, char *argv[])
 {
     QSettings settings(QString::fromLocal8Bit(argv[1]), QSettings::IniFormat);
-    const QVariantMap given = QJsonDocument::fromJson(argc > 2 ? argv[2] : "{}").toVariant().toMap();
+    const QVariantMap given = QJsonDocument::fromJson(argv[2]).toVariant().toMap();
     for (auto entry = given.begin(); entry != given.end(); ++entry) {
         const QVariantList list = entry->toList();
         settings.setValue(entry.key(), list.size() == 2 ? QPoint(list[0].toInt(), list[1].toInt()) : *entry);

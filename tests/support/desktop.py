@@ -60,11 +60,9 @@ class Desktop(AbstractContextManager):
 
     def run(self, *command, check=True):
         """Runs a program to its end: its standard output."""
-        result = subprocess.run([str(word) for word in command], env=self.env, stdin=subprocess.DEVNULL, timeout=60,
-                                capture_output=True)
-        if check and result.returncode != 0:
-            raise RuntimeError(f"{command}: {result.stderr.decode()}")
-        return result.stdout.decode(errors="replace")
+        return subprocess.run([str(word) for word in command], env=self.env, stdin=subprocess.DEVNULL, timeout=60,
+                              check=check, stdout=subprocess.PIPE, stderr=None if check else subprocess.DEVNULL,
+                              encoding="utf-8", errors="replace").stdout
 
     def _announced(self, *command):
         """Starts a server that announces its address on its standard output: the address."""
@@ -161,7 +159,7 @@ class Desktop(AbstractContextManager):
 
     def drag(self, *place):
         """Drags from a place, as xdotool knows it, by a hundred pixels to the right and down, in small steps."""
-        self.run("xdotool", "mousemove", *place, "sleep", 0.2, "mousedown", 1,
+        self.run("xdotool", "mousemove", *place, "sleep", 0.2, "mousedown", 1, "sleep", 0.2,
                  *10 * ("mousemove_relative", 10, 10, "sleep", 0.02), "mouseup", 1)
 
     def close(self):

@@ -20,6 +20,7 @@ class Kelvo:
         self.program = self.directory / "bin" / "kelvo"
         self.resources = self.directory / "Resources"
         self.path = self.directory / "path"
+        self.settings_file = desktop.home / ".config/Orvanta/Kelvo.conf"
         for folder in self.program.parent, self.resources, self.path:
             folder.mkdir(parents=True)
         shutil.copy2(built, self.program)
@@ -88,20 +89,13 @@ class Kelvo:
         found = self.desktop.run("pgrep", "-s", own, "-r", "DRST", "-f", name, check=False).split()
         return [pid for pid in found if pid != own]
 
-    @property
-    def settings_file(self):
-        return self.desktop.home / ".config/Orvanta/Kelvo.conf"
-
-    def _settings(self, *arguments):
-        return self.desktop.run(os.environ["SETTINGS_TOOL"], self.settings_file, *arguments)
-
-    def settings(self):
-        """What is stored, as {"Application/Settings": {...}, "MainWindow/Position": [x, y], ...}."""
-        return json.loads(self._settings())
+    def settings(self, **given):
+        """Stores these keys, and returns everything stored: {"Application/Settings": {...}, "MainWindow/...": ...}."""
+        return json.loads(self.desktop.run(os.environ["SETTINGS_TOOL"], self.settings_file, json.dumps(given)))
 
     def store(self, record=None, **others):
         """Stores the settings record and other keys ("MainWindow/Position": [x, y]), as the program would."""
-        self._settings(json.dumps({"Application/Settings": record or {}, **others}))
+        self.settings(**{"Application/Settings": record or {}, **others})
 
     def window(self, seconds=20.0, name="^Kelvo$"):
         """The main window's X number, or "" if it is not shown within the time."""
