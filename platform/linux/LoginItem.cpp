@@ -75,7 +75,10 @@ void MakeLoginItem(const QString &path)
     QSaveFile entry(file);
     if (QDir().mkpath(directory) && entry.open(QIODevice::WriteOnly)) {
         entry.write(DesktopEntryText(name, program));
-        entry.commit();
+        // Qt 6.4 commits what a full disk has cut short in the file's own buffer.
+        if (entry.flush()) {
+            entry.commit();
+        }
     }
 }
 
