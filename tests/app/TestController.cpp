@@ -1,132 +1,124 @@
-// The controller with all its windows, over a fake interpreter: what the end-to-end tests cannot reach.
+// The controller with all its windows: what the end-to-end tests cannot reach.
 
+#include "dialogs/DialogAbout.h"
 #include "dialogs/DialogStartUpInfo.h"
 #include "dialogs/DialogWarning.h"
 #include "tests/support/RunningApp.h"
 
 #include <QAbstractButton>
 #include <QLabel>
-#include <QMenu>
 #include <QSignalSpy>
+#include <QSystemTrayIcon>
 
 #include <algorithm>
 
-namespace {
-
-/// On the screen: how much brighter or darker than a widget's ground is what differs most from it.
-int PaintedContrast(QWidget *widget)
+/// How much brighter or darker than a widget's ground is what differs most from it on the screen.
+static int PaintedContrast(const QWidget *widget)
 {
-    const QRect area(widget->mapTo(widget->window(), QPoint(0, 0)), widget->size());
-    const QImage image = widget->window()->grab(area).toImage();
+    QWidget *window = widget->window();
+    const QImage image = window->grab({widget->mapTo(window, QPoint()), widget->size()}).toImage();
     QList<int> grays;
-    for (int nPixel = 0; nPixel < image.width() * image.height(); ++nPixel) {
-        grays << qGray(image.pixel(nPixel % image.width(), nPixel / image.width()));
+    for (int pixel = 0; pixel < image.width() * image.height(); ++pixel) {
+        grays << qGray(image.pixel(pixel % image.width(), pixel / image.width()));
     }
     std::sort(grays.begin(), grays.end());
     const int ground = grays[grays.size() / 2];
     return qMax(ground - grays.first(), grays.last() - ground);
 }
 
-} // namespace
-
 class TestController : public QObject
 {
     Q_OBJECT
 
 private slots:
-    void init();
-    void settingsLeaveTheWindowAlone();
+    void init()
+    {
+        FailOnWarnings();
+        RunningApp::Store().clear();
+    }
+    void beforeAndAfterItsWidgets();
     void readableTexts();
-    void askedFromOutside();
     void noReminderOverAnOpenWindow();
 
 private:
-    static void Click(const char *name) { RunningApp::Find<QAbstractButton>(name)->click(); }
-    static void Apply() { QCoreApplication::sendPostedEvents(); }
+    static void Click(const char *name)
+    {
+        RunningApp::Find<QAbstractButton>(name)->click();
+        QCoreApplication::sendPostedEvents();
+    }
 };
 
-void TestController::init()
+void TestController::beforeAndAfterItsWidgets()
 {
-    FailOnWarnings();
-    RunningApp::ForgetSettings();
-    QLocale::setDefault(QLocale(QLocale::English, QLocale::UnitedStates));
-}
-
-/// Hidden and shown again, it would flicker.
-void TestController::settingsLeaveTheWindowAlone()
-{
-    const RunningApp running;
-    const QSignalSpy hidden(RunningApp::Window<MainDialog>()->windowHandle(), SIGNAL(visibleChanged(bool)));
+    {
+        MyApp app(RunningApp::count, RunningApp::arguments);
+        BundledFake::InPath();
+        const BundledFake vmStat("vm_stat", RunningApp::Report(1, 1, 1, 1));
+        const MainDialog window(nullptr); // samples, and tells the controller
+        emit app.messageReceived(QString());
+        QVERIFY(!window.isVisible() && !app.findChild<QSystemTrayIcon *>());
+    }
+    RunningApp running;
+    const auto *icon = running.app.findChild<QSystemTrayIcon *>();
+    QVERIFY(icon && icon->isVisible() && !icon->icon().isNull());
+    QCOMPARE(icon->toolTip(), "Kelvo");
+    QCOMPARE(icon->contextMenu(), RunningApp::Find<QMenu>());
+    auto *window = RunningApp::Find<MainDialog>();
+    const QSignalSpy hidden(window->windowHandle(), SIGNAL(visibleChanged(bool)));
     Click("checkBoxRemind");
-    Apply();
-    QCOMPARE(hidden.count(), 0);
+    QCOMPARE(hidden.count(), 0); // it would flicker
+    window->showMinimized();
+    emit running.app.messageReceived(QString());
+    QVERIFY(window->isVisible() && !window->isMinimized());
 }
 
 void TestController::readableTexts()
 {
     const QPalette usual = QApplication::palette();
-    {
-        RunningApp running;
-        const QImage swatch = MyApp::CreateColorIcon(Qt::blue).pixmap(16).toImage(); // in the menu
-        QCOMPARE(swatch.pixelColor(8, 8), QColor(Qt::blue));
-        auto *window = RunningApp::Window<MainDialog>();
-        for (const QColor &desktop : {QColor(0xee, 0xee, 0xec), QColor(0x2a, 0x2e, 0x32)}) {
-            QApplication::setPalette(QPalette(desktop));
-            for (const int style : {0, 1, 0}) {
-                running.app.SetStyle(style);
-                Click("checkBoxNoTitleBar"); // new flags polish the window anew
-                Apply();
-                DialogWarning warning(window); // the sheet's rule for the main window reaches its dialogs
-                DialogStartUpInfo startUpInfo(window);
-                for (QWidget *shown : std::initializer_list<QWidget *>{window, &warning, &startUpInfo}) {
-                    shown->show();
-                    QVERIFY(QTest::qWaitForWindowExposed(shown));
-                    for (QWidget *text : shown->findChildren<QWidget *>()) {
-                        if (text->window() == shown && text->isVisible() &&
-                            (qobject_cast<QLabel *>(text) || qobject_cast<QAbstractButton *>(text))) {
-                            QVERIFY2(PaintedContrast(text) >= 80, qPrintable(text->objectName()));
-                        }
+    RunningApp running;
+    auto *window = RunningApp::Find<MainDialog>();
+    for (const QColor &desktop : {QColor(0xee, 0xee, 0xec), QColor(0x2a, 0x2e, 0x32)}) {
+        QApplication::setPalette(QPalette(desktop));
+        for (const int style : {0, 1, 0}) {
+            running.app.SetStyle(style);
+            Click("checkBoxNoTitleBar");   // new flags polish the window anew
+            DialogWarning warning(window); // the sheet's rule for the main window reaches its dialogs
+            DialogStartUpInfo notice(window);
+            for (QWidget *shown : std::initializer_list<QWidget *>{window, &warning, &notice}) {
+                shown->show();
+                QVERIFY(QTest::qWaitForWindowExposed(shown));
+                for (QWidget *text : shown->findChildren<QWidget *>()) {
+                    if (text->window() == shown && text->isVisible() &&
+                        (qobject_cast<QLabel *>(text) || qobject_cast<QAbstractButton *>(text))) {
+                        QVERIFY2(PaintedContrast(text) >= 80, qPrintable(text->objectName()));
                     }
                 }
-                // The style's own colours, and where they can be read the desktop's too.
-                const QPalette palette = RunningApp::Find<QLabel>("labelInactive")->palette();
-                QCOMPARE(palette.color(QPalette::WindowText),
-                         style ? QColor(0x66, 0x66, 0xff) : QColor(Qt::blue));
-                if ((desktop.lightness() < 128) == (style == 1)) {
-                    QCOMPARE(RunningApp::Find<QWidget>("pushButtonGo")->palette().color(QPalette::Button),
-                             desktop);
-                }
             }
+            // The style's own colours, and where they can be read the desktop's too.
+            QCOMPARE(RunningApp::Find<QLabel>("labelInactive")->palette().color(QPalette::WindowText),
+                     style ? QColor(0x66, 0x66, 0xff) : QColor(Qt::blue));
+            const bool bDark = desktop.lightness() < 128;
+            const auto *button = RunningApp::Find<QWidget>("pushButtonGo");
+            QVERIFY(bDark != (style == 1) || button->palette().color(QPalette::Button) == desktop);
+            DialogAbout about(nullptr);
+            QCOMPARE(about.findChild<QLabel *>("label_4")->text().contains("color:#ffffff"), bDark);
         }
     }
     QApplication::setPalette(usual);
 }
 
-/// By another launch, and by the session.
-void TestController::askedFromOutside()
-{
-    RunningApp running;
-    auto *window = RunningApp::Window<MainDialog>();
-    window->showMinimized();
-    emit running.app.messageReceived(QString());
-    QVERIFY(window->isVisible() && !window->isMinimized());
-    QCoreApplication::postEvent(&running.app, new QEvent(QEvent::Close));
-    QTimer::singleShot(5000, &running.app, [] { QCoreApplication::exit(99); });
-    QCOMPARE(QApplication::exec(), 0);
-}
-
 /// Whoever has a window open is looking.
 void TestController::noReminderOverAnOpenWindow()
 {
-    RunningApp::Store("Application/Settings", QVariantMap{{"Remind", true}});
-    RunningApp running;
-    QWidget *const main = RunningApp::Window<MainDialog>();
-    QWidget *const panel = RunningApp::Window<DialogPreferences>();
+    RunningApp::Store().setValue("Application/Settings", QVariantMap{{"Remind", true}});
+    const RunningApp running;
+    QWidget *const main = RunningApp::Find<MainDialog>();
+    QWidget *const panel = RunningApp::Find<DialogPreferences>();
     for (QWidget *open : {main, panel, static_cast<QWidget *>(nullptr)}) {
         main->setVisible(open == main);
         panel->setVisible(open == panel);
         running.Sample(RunningApp::Report(1, 300000, 1, 1));
-        QCOMPARE(RunningApp::Window<DialogReminder>()->isVisible(), open == nullptr);
+        QCOMPARE(RunningApp::Find<DialogReminder>()->isVisible(), open == nullptr);
     }
 }
 

@@ -1,126 +1,132 @@
+// The preferences panel over any record, and how the dialogs answer.
+
 #include "dialogs/DialogAbout.h"
 #include "dialogs/DialogPreferences.h"
 #include "dialogs/DialogReminder.h"
-#include "dialogs/DialogStartUpInfo.h"
-#include "dialogs/DialogWarning.h"
 #include "tests/support/FailOnWarnings.h"
 
 #include <QCheckBox>
-#include <QDesktopServices>
-#include <QLabel>
-#include <QLayout>
 #include <QSignalSpy>
-#include <QTimer>
 #include <QtTest>
 
 class TestDialogs : public QObject
 {
     Q_OBJECT
 
-public slots:
-    void OpenUrl(const QUrl &url) { opened.append(url); }
-
 private slots:
-    void initTestCase();
     void init() { FailOnWarnings(); }
-    void NoticeShowsBothIcons();
-    void WarningAnswer();
-    void ReminderClosedWithEscape();
-    void ReminderGrowsWithItsMessage();
-    void AboutOpensNothingAtReturn();
-    void AboutLinkIsReadableOnDark();
-    void SizeIsFixed();
 
-private:
-    QList<QUrl> opened;
-};
-
-void TestDialogs::initTestCase()
-{
-    QDesktopServices::setUrlHandler("https", this, "OpenUrl");
-}
-
-void TestDialogs::NoticeShowsBothIcons()
-{
-    const QString notice = DialogStartUpInfo(nullptr).findChild<QLabel *>("label")->text();
-    for (const char *icon : {":/app16.png", ":/piechart.png"}) {
-        QVERIFY2(notice.contains(icon) && QImage(icon).size() == QSize(16, 16), icon);
+    void anyRecord_data()
+    {
+        QTest::addColumn<QVariant>("given");
+        QTest::addColumn<QString>("key");
+        QTest::addColumn<QVariant>("read");
+        const auto row = [](const QVariant &given, const char *key, const QVariant &read) {
+            QTest::addRow("%s %s", key, given.typeName()) << given << QString(key) << read;
+        };
+        row({}, "StayOnTop", false);
+        row(true, "PieChartIcon", true); // shows a box
+        row(true, "Remind", true);       // enables a number
+        row("true", "AutoLaunch", true);
+        row(QVariantList{1}, "NoTitleBar", false);
+        row("dark", "WindowStyle", 0);
+        row(2, "WindowStyle", 1);
+        row(-1, "UpdateFrequency", 1);
+        row(1.234, "RemindThreshold", 1.23);
+        row(150, "RemindThreshold", 99.99);
+        row("-3", "RemindThreshold", 0.0);
     }
-}
+    void anyRecord()
+    {
+        QFETCH(QVariant, given);
+        QFETCH(QString, key);
+        QFETCH(QVariant, read);
+        QVariantMap full{{"WindowStyle", 1}, {"UpdateFrequency", 1}, {"RemindThreshold", 42.0}};
+        QVariantMap empty{{"WindowStyle", 0}, {"UpdateFrequency", 0}, {"RemindThreshold", 0.0}};
+        for (const char *box : {"AutoHide", "AutoLaunch", "StayOnTop", "PieChartIcon", "MonoColor", "Remind",
+                                "NoTitleBar", "HideAtStartUp"}) {
+            full[box] = true;
+            empty[box] = false;
+        }
+        DialogPreferences panel(nullptr);
+        const QSignalSpy changed(&panel, SIGNAL(SettingChanged()));
+        panel.SetSettings(full); // so that nearly each control really has to move
+        QCOMPARE(panel.GetSettings(), full);
+        panel.SetSettings({{key, given}});
+        QCOMPARE(changed.count(), 0);
+        empty[key] = read;
+        const QVariantMap settings = panel.GetSettings();
+        QCOMPARE(settings, empty);
+        for (auto it = empty.cbegin(); it != empty.cend(); ++it) {
+            QCOMPARE(settings[it.key()].typeName(), it->typeName());
+        }
+        // What the form's own connections do otherwise.
+        auto *mono = panel.findChild<QCheckBox *>("checkBoxMonoColor");
+        QCOMPARE(mono->isVisibleTo(&panel), settings["PieChartIcon"].toBool());
+        QCOMPARE(panel.findChild<QWidget *>("doubleSpinBoxThreshold")->isEnabled(),
+                 settings["Remind"].toBool());
+        mono->setChecked(true);
+        QVERIFY(panel.GetSettings()["MonoColor"].toBool()); // kept while hidden
+    }
 
-void TestDialogs::WarningAnswer()
-{
-    for (const bool bTick : {false, true}) {
-        DialogWarning dialog(nullptr);
-        QVERIFY(!dialog.GetShowNoWarning());
-        QTimer::singleShot(0, &dialog, [&] {
-            if (bTick) {
-                QTest::keyClick(dialog.findChild<QCheckBox *>("checkBoxDoNotShow"), Qt::Key_Space);
+    /// Only where a window that stays on top would cover it, and where the user has not moved it clear.
+    void panelStandsBeside()
+    {
+        QWidget other;
+        other.setGeometry(20, 30, 200, 80);
+        DialogPreferences panel(nullptr);
+        panel.move(other.pos());
+        const auto moves = [&] {
+            const QPoint before = panel.pos();
+            panel.PlaceBeside(&other);
+            return panel.pos() != before;
+        };
+        other.show();
+        QVERIFY(!moves()); // it can be covered itself
+        other.setWindowFlag(Qt::WindowStaysOnTopHint);
+        QVERIFY(!moves()); // hidden
+        other.show();
+        QVERIFY(moves());
+        panel.show();
+        QVERIFY(!panel.frameGeometry().intersects(other.frameGeometry()));
+        panel.hide();
+        panel.move(panel.screen()->availableGeometry().center());
+        QVERIFY(!moves());
+    }
+
+    /// One reminder serves the whole run, hides before it answers, and grows with its message.
+    void reminder()
+    {
+        DialogReminder dialog(nullptr);
+        QStringList heard;
+        const auto hear = [&](const char *what) { heard << (dialog.isVisible() ? "too early" : what); };
+        connect(&dialog, &DialogReminder::Accepted, this, [&] { hear("yes"); });
+        connect(&dialog, &DialogReminder::DoNotRemind, this, [&] { hear("never"); });
+        connect(&dialog, &DialogReminder::rejected, this, [&] { hear("no"); });
+        for (int i = 0; i < 2; ++i) {
+            for (const char *button : {"pushButtonYes", "pushButtonNoRemind"}) {
+                dialog.show();
+                dialog.findChild<QAbstractButton *>(button)->click();
             }
-            QTest::keyClick(&dialog, bTick ? Qt::Key_Escape : Qt::Key_Return);
-        });
-        QCOMPARE(dialog.exec(), bTick ? int(QDialog::Rejected) : int(QDialog::Accepted));
-        QCOMPARE(dialog.GetShowNoWarning(), bTick);
-    }
-}
-
-/// The same as "No", every time: one dialog serves the whole run.
-void TestDialogs::ReminderClosedWithEscape()
-{
-    DialogReminder dialog(nullptr);
-    const QSignalSpy rejected(&dialog, SIGNAL(rejected()));
-    for (int nTimes = 1; nTimes <= 2; ++nTimes) {
+            dialog.show();
+            QTest::keyClick(&dialog, Qt::Key_Escape);
+        }
+        QCOMPARE(heard.join(' '), "yes never no yes never no");
+        dialog.SetMessage("short");
         dialog.show();
-        QTest::keyClick(&dialog, Qt::Key_Escape);
-        QVERIFY(!dialog.isVisible());
-        QCOMPARE(rejected.count(), nTimes);
+        const int height = dialog.height();
+        dialog.SetMessage(QString("a long message ").repeated(30));
+        QTRY_VERIFY(dialog.height() > 2 * height);
     }
-}
 
-void TestDialogs::ReminderGrowsWithItsMessage()
-{
-    DialogReminder dialog(nullptr);
-    dialog.SetMessage("short");
-    dialog.show();
-    const int nHeight = dialog.height();
-    dialog.SetMessage(QString("a long message ").repeated(30));
-    QTRY_VERIFY(dialog.height() > 2 * nHeight);
-}
-
-void TestDialogs::AboutOpensNothingAtReturn()
-{
-    DialogAbout dialog(nullptr);
-    dialog.Show();
-    QTest::keyClick(&dialog, Qt::Key_Return);
-    QVERIFY(opened.isEmpty());
-}
-
-void TestDialogs::AboutLinkIsReadableOnDark()
-{
-    const auto link = [] { return DialogAbout(nullptr).findChild<QLabel *>("label_4")->text(); };
-    QVERIFY(!link().contains("color"));
-    const QPalette light = QApplication::palette();
-    QApplication::setPalette(QPalette(QColor(40, 40, 44)));
-    const QString onDark = link();
-    QApplication::setPalette(light);
-    QVERIFY(onDark.contains("color:#ffffff"));
-}
-
-void TestDialogs::SizeIsFixed()
-{
-    DialogPreferences preferences(nullptr);
-    DialogWarning warning(nullptr);
-    DialogStartUpInfo startUpInfo(nullptr);
-    DialogReminder reminder(nullptr);
-    DialogAbout about(nullptr);
-    for (QWidget *dialog :
-         std::initializer_list<QWidget *>{&preferences, &warning, &startUpInfo, &reminder, &about}) {
-        dialog->show();
-        QVERIFY(QTest::qWaitForWindowExposed(dialog));
-        QCOMPARE(dialog->minimumSize(), dialog->maximumSize());
-        QCOMPARE(dialog->size(), dialog->layout()->sizeHint());
+    void aboutOpensNothingAtReturn()
+    {
+        DialogAbout dialog(nullptr);
+        dialog.Show();
+        QTest::keyClick(&dialog, Qt::Key_Return);
+        QVERIFY(dialog.isVisible()); // feedback hides it
     }
-}
+};
 
 QTEST_MAIN(TestDialogs)
 #include "TestDialogs.moc"

@@ -1,4 +1,4 @@
-// What the script runner makes of an answer. Bad interpreters and the login item: tests/e2e.
+// What the script runner makes of an interpreter's answer.
 
 #include "platform/Global.h"
 #include "tests/support/BundledFake.h"
@@ -12,49 +12,41 @@ class TestRunner : public QObject
 
 private slots:
     void init() { FailOnWarnings(); }
-    void answers_data();
-    void answers();
-    void processObjects();
+
+    void answers()
+    {
+        const BundledFake interpreter("osascript");
+        const std::pair<const char *, QString> cases[] = {
+            {"echo $# $* $(od -An -tx1)", "2 -l AppleScript c3 a9 0a e2 82 ac 22"},
+            {"printf '  two words \\n\\n'", "two words"},
+            {"printf '\\351\\0b'", QChar(0xe9)},
+            {"exec <&-; echo a", "a"},
+            {"echo a >&2; exit 1", {}},
+            {"kill -9 $$", {}},
+        };
+        for (const auto &[body, answer] : cases) {
+            interpreter.Write(body);
+            QCOMPARE(Global::RunInterpreter(interpreter.path, "\u00e9\n\u20ac\"", this, true), answer);
+        }
+    }
+
+    void processObjects()
+    {
+        const BundledFake interpreter("osascript", "cat >/dev/null; echo done");
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+        QCOMPARE(findChildren<QProcess *>().size(), 0);
+        // Not waited for, it needs its object to the end.
+        QCOMPARE(Global::RunInterpreter(interpreter.path, "x", this, false), QString());
+        auto *process = findChild<QProcess *>();
+        QVERIFY(process && process->waitForFinished());
+        QCOMPARE(process->readAll(), "done\n");
+    }
+
     void bundlePath()
     {
         QCOMPARE(Global::BundlePath("/Contents/MacOS/b.app/Contents/MacOS"), "/Contents/MacOS/b.app");
     }
 };
-
-void TestRunner::answers_data()
-{
-    QTest::addColumn<QByteArray>("body");
-    QTest::addColumn<QString>("answer");
-    const auto row = [](const char *name, const char *body, const QString &answer) {
-        QTest::newRow(name) << QByteArray(body) << answer;
-    };
-    row("arguments, script as UTF-8", "echo $# $* $(od -An -tx1)", "2 -l AppleScript c3 a9 0a e2 82 ac 22");
-    row("trimmed", "printf '  two words \\n\\n'", "two words");
-    row("Latin-1, cut at a NUL byte", "printf '\\351\\0b'", QChar(0xe9));
-}
-
-void TestRunner::answers()
-{
-    QFETCH(QByteArray, body);
-    const BundledFake interpreter(QStringLiteral("osascript"), body);
-    QObject parent;
-    QTEST(Global::RunAppleScript(QStringLiteral("\u00e9\n\u20ac\""), &parent, true), "answer");
-}
-
-void TestRunner::processObjects()
-{
-    const BundledFake interpreter(QStringLiteral("osascript"), "cat >/dev/null; echo done");
-    QObject parent;
-    Global::RunAppleScript(QStringLiteral("x"), &parent, true);
-    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-    QCOMPARE(parent.findChildren<QProcess *>().size(), 0);
-
-    // Not waited for, it needs its object to the end.
-    QCOMPARE(Global::RunAppleScript(QStringLiteral("x"), &parent, false), QString());
-    auto *process = parent.findChild<QProcess *>();
-    QVERIFY(process && process->waitForFinished());
-    QCOMPARE(process->readAll(), QByteArray("done\n"));
-}
 
 QTEST_GUILESS_MAIN(TestRunner)
 #include "TestRunner.moc"

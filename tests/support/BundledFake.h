@@ -1,13 +1,11 @@
 #pragma once
 
-#include "platform/BundledResources.h"
+#include "platform/Global.h"
 
-#include <QDir>
 #include <QFile>
-#include <QString>
 
-/// A shell script standing in for one of the bundled programs ("osascript", "memfree") in the running test's
-/// own bundle, found by the very rule that the application uses; gone again with the object.
+/// A shell script in the Resources directory of the running test's own bundle, gone again with the object:
+/// the freeing helper ("memfree"), or with BundledFake::InPath() the "vm_stat" that a user has installed.
 class BundledFake
 {
 public:
@@ -21,8 +19,15 @@ public:
     ~BundledFake() { QFile::remove(path); }
     Q_DISABLE_COPY_MOVE(BundledFake)
 
+    /// Makes the fakes the first programs in PATH. A vm_stat is searched for once, at the first sample, so it
+    /// must be there by then.
+    static void InPath()
+    {
+        qputenv("PATH", QFile::encodeName(Global::BundledResourcesDirectory()) + ":/usr/bin:/bin");
+    }
+
     /// Replaces the script. Written beside and renamed, since a running script must not be written over.
-    void Write(const QByteArray &body, bool bExecutable = true)
+    void Write(const QByteArray &body, bool bExecutable = true) const
     {
         QFile file(path + QStringLiteral(".new"));
         if (!file.open(QIODevice::WriteOnly | QIODevice::Truncate)) {
@@ -30,7 +35,7 @@ public:
         }
         file.write("#!/bin/sh\n" + body + "\n");
         file.close();
-        auto permissions = QFileDevice::ReadOwner | QFileDevice::WriteOwner;
+        const auto permissions = QFileDevice::ReadOwner | QFileDevice::WriteOwner;
         file.setPermissions(bExecutable ? permissions | QFileDevice::ExeOwner : permissions);
         QFile::remove(path);
         file.rename(path);

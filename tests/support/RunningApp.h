@@ -11,42 +11,36 @@
 #include <QSettings>
 #include <QTranslator>
 
-/// A whole application for one test: the real controller over a fake interpreter whose report the test sets.
+/// A whole application for one test: the real controller over a vm_stat whose report the test sets.
 class RunningApp
 {
 public:
     explicit RunningApp(const QByteArray &report = Report(1000, 20, 30, 7),
                         const QList<QTranslator *> &catalogues = {})
-        : app(nArguments, arguments), interpreter(QStringLiteral("osascript"), Script(report))
+        : app(count, arguments), vmStat(QStringLiteral("vm_stat"), report)
     {
+        BundledFake::InPath();
         for (QTranslator *catalogue : catalogues) {
             QCoreApplication::installTranslator(catalogue);
         }
         app.InitializeWidgets();
     }
-
-    ~RunningApp()
-    {
-        QTest::qWait(100);      // a helper that has answered may still be ending
-        delete Window<QMenu>(); // the program never does: its only menu lives until the process ends
-    }
+    ~RunningApp() { delete Find<QMenu>(); } // the program never does: it lives until the process ends
     Q_DISABLE_COPY_MOVE(RunningApp)
 
-    static QByteArray Report(int nPagesFree, int nInactive, int nActive, int nWired)
+    /// The script of a vm_stat that counts these pages.
+    static QByteArray Report(int free, int inactive, int active, int wired)
     {
-        const char *format = "Pages free: %d. Pages active: %d. Pages inactive: %d. Pages wired down: %d.";
-        return QString::asprintf(format, nPagesFree, nActive, nInactive, nWired).toLatin1();
-    }
-    static QByteArray Script(const QByteArray &report)
-    {
-        return "cat >/dev/null\nprintf '%s' '" + report + "'";
+        const char *format =
+            "echo Pages free: %d. Pages active: %d. Pages inactive: %d. Pages wired down: %d.";
+        return QString::asprintf(format, free, active, inactive, wired).toLatin1();
     }
 
     /// Sets the report and takes a sample.
-    void Sample(const QByteArray &report)
+    void Sample(const QByteArray &report) const
     {
-        interpreter.Write(Script(report));
-        Window<MainDialog>()->UpdateStats();
+        vmStat.Write(report);
+        Find<MainDialog>()->UpdateStats();
     }
 
     /// A widget of one of the windows, by its class and where need be its object name.
@@ -61,29 +55,15 @@ public:
         }
         return nullptr;
     }
-    template <class T> static T *Window() { return Find<T>(); }
 
-    /// Forgets everything stored; before the next application is made.
-    static void ForgetSettings()
-    {
-        QFile::remove(QSettings(QStringLiteral("Orvanta"), QStringLiteral("Kelvo")).fileName());
-    }
-    static void Store(const QString &key, const QVariant &value)
-    {
-        QSettings(QStringLiteral("Orvanta"), QStringLiteral("Kelvo")).setValue(key, value);
-    }
-    static QVariant Stored(const QString &key)
-    {
-        return QSettings(QStringLiteral("Orvanta"), QStringLiteral("Kelvo")).value(key);
-    }
+    /// What is stored, also before there is an application.
+    static QSettings Store() { return QSettings(QStringLiteral("Orvanta"), QStringLiteral("Kelvo")); }
 
-private:
     // Qt wants its arguments to outlive the application.
-    static inline int nArguments = 1;
+    static inline int count = 1;
     static inline char name[] = "kelvo";
     static inline char *arguments[] = {name, nullptr};
 
-public:
     MyApp app;
-    BundledFake interpreter;
+    const BundledFake vmStat;
 };

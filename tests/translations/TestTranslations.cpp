@@ -12,22 +12,6 @@
 #include <QLabel>
 #include <QXmlStreamReader>
 
-class TestTranslations : public QObject
-{
-    Q_OBJECT
-
-private slots:
-    void init()
-    {
-        FailOnWarnings();
-        RunningApp::ForgetSettings();
-        RunningApp::Store("MainWindow/Warning", true);
-    }
-    void textsFitTheirSource();
-    void windowsShowAllOfThem_data();
-    void windowsShowAllOfThem();
-};
-
 namespace {
 
 // Whatever lies there is a language, so that one that the build forgets is missed here.
@@ -43,7 +27,7 @@ QStringList Languages()
 /// What a translation may not change: placeholders, tags, pictures, mnemonics, blanks at either end.
 QStringList Form(const QString &text)
 {
-    static const QRegularExpression pattern(R"(%\d|</?\w+|":[^"]+"|&(?!\w+;)(?=\w)|^\s|\s$)");
+    static const QRegularExpression pattern("%\\d|</?\\w+|\":[^\"]+\"|&(?!\\w+;)(?=\\w)|^\\s|\\s$");
     QStringList form;
     for (auto match = pattern.globalMatch(text); match.hasNext();) {
         form << match.next().captured();
@@ -83,73 +67,81 @@ void VerifyNothingIsCut(const QWidget *window)
 
 } // namespace
 
-void TestTranslations::textsFitTheirSource()
+class TestTranslations : public QObject
 {
-    for (const QString &language : Languages()) {
-        QFile file(QStringLiteral(TEXTS "/my_%1.ts").arg(language));
-        QVERIFY(file.open(QIODevice::ReadOnly));
-        QXmlStreamReader xml(&file);
-        QHash<QString, QString> texts;
-        QString source;
-        while (!xml.atEnd()) {
-            xml.readNext();
-            if (xml.isStartElement() && xml.name() == QLatin1String("source")) {
-                source = xml.readElementText();
-            } else if (xml.isStartElement() && xml.name() == QLatin1String("translation")) {
-                const QString text = xml.readElementText();
-                QVERIFY2(Form(text) == Form(source), qPrintable(language + ": " + text));
-                // One thing, one word, in the window as in the menu, where a blank follows.
-                QCOMPARE(texts.value(source.trimmed(), text.trimmed()), text.trimmed());
-                texts.insert(source.trimmed(), text.trimmed());
+    Q_OBJECT
+
+private slots:
+    void init() { FailOnWarnings(); }
+
+    void textsFitTheirSource()
+    {
+        for (const QString &language : Languages()) {
+            QFile file(QStringLiteral(TEXTS "/my_%1.ts").arg(language));
+            QVERIFY(file.open(QIODevice::ReadOnly));
+            QXmlStreamReader xml(&file);
+            QHash<QString, QString> texts;
+            QString source;
+            while (!xml.atEnd()) {
+                xml.readNext();
+                if (xml.isStartElement() && xml.name() == QLatin1String("source")) {
+                    source = xml.readElementText();
+                } else if (xml.isStartElement() && xml.name() == QLatin1String("translation")) {
+                    const QString text = xml.readElementText();
+                    QVERIFY2(Form(text) == Form(source), qPrintable(language + ": " + text));
+                    // One thing, one word, in the window as in the menu, where a blank follows.
+                    QCOMPARE(texts.value(source.trimmed(), text.trimmed()), text.trimmed());
+                    texts.insert(source.trimmed(), text.trimmed());
+                }
+            }
+            QVERIFY2(!xml.hasError() && !texts.isEmpty(), qPrintable(xml.errorString()));
+        }
+    }
+
+    void windowsShowAllOfThem_data()
+    {
+        QTest::addColumn<QString>("language");
+        for (const QString &language : Languages()) {
+            QTest::newRow(qPrintable(language)) << language;
+        }
+    }
+    void windowsShowAllOfThem()
+    {
+        QFETCH(QString, language);
+        const QString locale = QLocale(language).name();
+        QLocale::setDefault(QLocale(language));
+        RunningApp::Store().setValue("Application/Settings", QVariantMap{{"Remind", true}});
+        QTranslator qtTexts;
+        QTranslator ourTexts;
+        QCOMPARE(qtTexts.load("qt_" + locale, CATALOGUES), language != "hi"); // Qt does not know that one
+        QVERIFY(ourTexts.load("my_" + locale, CATALOGUES));
+        RunningApp running(RunningApp::Report(268433408, 268433408, 268433408, 268433408),
+                           {&qtTexts, &ourTexts});
+        QCOMPARE(QCoreApplication::translate("QPlatformTheme", "Cancel") != "Cancel", language != "hi");
+
+        auto *window = RunningApp::Find<MainDialog>();
+        window->OnFinished(); // shows a result: against nothing, all that is free
+        DialogWarning warning(window);
+        DialogStartUpInfo notice(window);
+        window->hide();
+        window->UpdateStats(); // reminds
+        auto *reminder = RunningApp::Find<DialogReminder>();
+        QVERIFY(reminder->isVisible());
+        QWidget *windows[] = {window,  RunningApp::Find<DialogPreferences>(), &warning, reminder,
+                              &notice, RunningApp::Find<DialogAbout>()};
+        for (const int style : {0, 1}) {
+            running.app.SetStyle(style);
+            for (QWidget *shown : windows) {
+                shown->show();
+                QVERIFY(QTest::qWaitForWindowExposed(shown));
+                VerifyNothingIsCut(shown);
+                // What a screen of 1280 pixels has room for at twice the size.
+                QVERIFY2(shown->width() <= 640, shown->metaObject()->className());
+                shown->hide();
             }
         }
-        QVERIFY2(!xml.hasError() && !texts.isEmpty(), qPrintable(xml.errorString()));
     }
-}
-
-void TestTranslations::windowsShowAllOfThem_data()
-{
-    QTest::addColumn<QString>("language");
-    QTest::addColumn<int>("nStyle");
-    for (const QString &language : Languages()) {
-        QTest::newRow(qPrintable(language + " classic")) << language << 0;
-        QTest::newRow(qPrintable(language + " dark")) << language << 1;
-    }
-}
-
-void TestTranslations::windowsShowAllOfThem()
-{
-    QFETCH(QString, language);
-    QFETCH(int, nStyle);
-    const QString locale = QLocale(language).name();
-    QLocale::setDefault(QLocale(language));
-    RunningApp::Store("Application/Settings", QVariantMap{{"WindowStyle", nStyle}, {"Remind", true}});
-    QTranslator qtTexts;
-    QTranslator ourTexts;
-    QCOMPARE(qtTexts.load("qt_" + locale, CATALOGUES), language != "hi");
-    QVERIFY(ourTexts.load("my_" + locale, CATALOGUES));
-    RunningApp running(RunningApp::Report(268433408, 268433408, 268433408, 268433408), {&qtTexts, &ourTexts});
-    const QString cancel = QCoreApplication::translate("QPlatformTheme", "Cancel");
-    QCOMPARE(cancel != "Cancel", language != "hi"); // Qt does not know that one
-
-    auto *window = RunningApp::Window<MainDialog>();
-    window->OnFinished(); // shows a result: against nothing, all that is free
-    DialogWarning warning(window);
-    DialogStartUpInfo notice(window);
-    window->hide();
-    window->UpdateStats();
-    auto *reminder = RunningApp::Window<DialogReminder>();
-    QVERIFY(reminder->isVisible());
-    QWidget *windows[] = {window,  RunningApp::Window<DialogPreferences>(), &warning, reminder,
-                          &notice, RunningApp::Window<DialogAbout>()};
-    for (QWidget *shown : windows) {
-        shown->show();
-        QVERIFY(QTest::qWaitForWindowExposed(shown));
-        VerifyNothingIsCut(shown);
-        // What a screen of 1280 pixels has room for at twice the size.
-        QVERIFY2(shown->width() <= 640, shown->metaObject()->className());
-    }
-}
+};
 
 QTEST_APPLESS_MAIN(TestTranslations)
 #include "TestTranslations.moc"
