@@ -13,7 +13,7 @@
 #include <algorithm>
 
 /// How much brighter or darker than a widget's ground is what differs most from it on the screen.
-static int PaintedContrast(const QWidget *widget)
+static int PaintedContrast(QWidget *widget)
 {
     QWidget *window = widget->window();
     const QImage image = window->grab({widget->mapTo(window, QPoint()), widget->size()}).toImage();
@@ -36,9 +36,75 @@ private slots:
         FailOnWarnings();
         RunningApp::Store().clear();
     }
-    void beforeAndAfterItsWidgets();
-    void readableTexts();
-    void noReminderOverAnOpenWindow();
+
+    void beforeAndAfterItsWidgets()
+    {
+        {
+            MyApp app(RunningApp::count, RunningApp::arguments);
+            const FakeReport report(1, 1, 1, 1);
+            const MainDialog window(nullptr); // samples, and tells the controller
+            emit app.messageReceived(QString());
+            QVERIFY(!window.isVisible() && !app.findChild<QSystemTrayIcon *>());
+        }
+        RunningApp running;
+        const auto *icon = running.app.findChild<QSystemTrayIcon *>();
+        QVERIFY(icon && icon->isVisible() && !icon->icon().isNull());
+        QCOMPARE(icon->toolTip(), "Kelvo");
+        QCOMPARE(icon->contextMenu(), RunningApp::Find<QMenu>());
+        auto *window = RunningApp::Find<MainDialog>();
+        const QSignalSpy hidden(window->windowHandle(), SIGNAL(visibleChanged(bool)));
+        Click("checkBoxRemind");
+        QCOMPARE(hidden.count(), 0); // hidden and shown again, it would flicker
+        window->showMinimized();
+        emit running.app.messageReceived(QString());
+        QVERIFY(window->isVisible() && !window->isMinimized());
+    }
+
+    void readableTexts()
+    {
+        RunningApp running;
+        auto *window = RunningApp::Find<MainDialog>();
+        for (const QColor &desktop : {QColor(0x2a, 0x2e, 0x32), QColor(0xee, 0xee, 0xec)}) {
+            QApplication::setPalette(QPalette(desktop));
+            const DialogAbout about(nullptr);
+            QCOMPARE(about.findChild<QLabel *>("label_4")->text().contains("color:#ffffff"),
+                     desktop.lightness() < 128);
+            for (const int style : {0, 1, 0}) {
+                running.app.SetStyle(style);
+                Click("checkBoxNoTitleBar");   // new flags polish the window anew
+                DialogWarning warning(window); // the sheet's rule for the main window reaches its dialogs
+                DialogStartUpInfo notice(window);
+                for (QWidget *shown : std::initializer_list<QWidget *>{window, &warning, &notice}) {
+                    shown->show();
+                    QVERIFY(QTest::qWaitForWindowExposed(shown));
+                    for (QWidget *text :
+                         shown->findChildren<QWidget *>(QRegularExpression("^(label|push|check)"))) {
+                        QVERIFY2(!text->isVisible() || text->window() != shown || PaintedContrast(text) >= 80,
+                                 qPrintable(text->objectName()));
+                    }
+                }
+                // The style's own colour stays.
+                QCOMPARE(RunningApp::Find<QLabel>("labelInactive")->palette().color(QPalette::WindowText),
+                         style ? QColor(0x66, 0x66, 0xff) : QColor(Qt::blue));
+            }
+        }
+    }
+
+    /// Whoever has a window open is looking.
+    void noReminderOverAnOpenWindow()
+    {
+        RunningApp::Store().setValue("Application/Settings", QVariantMap{{"Remind", true}});
+        const RunningApp running;
+        running.report.Set(1, 300000, 1, 1);
+        QWidget *const main = RunningApp::Find<MainDialog>();
+        QWidget *const panel = RunningApp::Find<DialogPreferences>();
+        for (QWidget *open : {main, panel, static_cast<QWidget *>(nullptr)}) {
+            main->setVisible(open == main);
+            panel->setVisible(open == panel);
+            RunningApp::Find<MainDialog>()->UpdateStats();
+            QCOMPARE(RunningApp::Find<DialogReminder>()->isVisible(), !open);
+        }
+    }
 
 private:
     static void Click(const char *name)
@@ -47,80 +113,6 @@ private:
         QCoreApplication::sendPostedEvents();
     }
 };
-
-void TestController::beforeAndAfterItsWidgets()
-{
-    {
-        MyApp app(RunningApp::count, RunningApp::arguments);
-        BundledFake::InPath();
-        const BundledFake vmStat("vm_stat", RunningApp::Report(1, 1, 1, 1));
-        const MainDialog window(nullptr); // samples, and tells the controller
-        emit app.messageReceived(QString());
-        QVERIFY(!window.isVisible() && !app.findChild<QSystemTrayIcon *>());
-    }
-    RunningApp running;
-    const auto *icon = running.app.findChild<QSystemTrayIcon *>();
-    QVERIFY(icon && icon->isVisible() && !icon->icon().isNull());
-    QCOMPARE(icon->toolTip(), "Kelvo");
-    QCOMPARE(icon->contextMenu(), RunningApp::Find<QMenu>());
-    auto *window = RunningApp::Find<MainDialog>();
-    const QSignalSpy hidden(window->windowHandle(), SIGNAL(visibleChanged(bool)));
-    Click("checkBoxRemind");
-    QCOMPARE(hidden.count(), 0); // it would flicker
-    window->showMinimized();
-    emit running.app.messageReceived(QString());
-    QVERIFY(window->isVisible() && !window->isMinimized());
-}
-
-void TestController::readableTexts()
-{
-    const QPalette usual = QApplication::palette();
-    RunningApp running;
-    auto *window = RunningApp::Find<MainDialog>();
-    for (const QColor &desktop : {QColor(0xee, 0xee, 0xec), QColor(0x2a, 0x2e, 0x32)}) {
-        QApplication::setPalette(QPalette(desktop));
-        for (const int style : {0, 1, 0}) {
-            running.app.SetStyle(style);
-            Click("checkBoxNoTitleBar");   // new flags polish the window anew
-            DialogWarning warning(window); // the sheet's rule for the main window reaches its dialogs
-            DialogStartUpInfo notice(window);
-            for (QWidget *shown : std::initializer_list<QWidget *>{window, &warning, &notice}) {
-                shown->show();
-                QVERIFY(QTest::qWaitForWindowExposed(shown));
-                for (QWidget *text : shown->findChildren<QWidget *>()) {
-                    if (text->window() == shown && text->isVisible() &&
-                        (qobject_cast<QLabel *>(text) || qobject_cast<QAbstractButton *>(text))) {
-                        QVERIFY2(PaintedContrast(text) >= 80, qPrintable(text->objectName()));
-                    }
-                }
-            }
-            // The style's own colours, and where they can be read the desktop's too.
-            QCOMPARE(RunningApp::Find<QLabel>("labelInactive")->palette().color(QPalette::WindowText),
-                     style ? QColor(0x66, 0x66, 0xff) : QColor(Qt::blue));
-            const bool bDark = desktop.lightness() < 128;
-            const auto *button = RunningApp::Find<QWidget>("pushButtonGo");
-            QVERIFY(bDark != (style == 1) || button->palette().color(QPalette::Button) == desktop);
-            DialogAbout about(nullptr);
-            QCOMPARE(about.findChild<QLabel *>("label_4")->text().contains("color:#ffffff"), bDark);
-        }
-    }
-    QApplication::setPalette(usual);
-}
-
-/// Whoever has a window open is looking.
-void TestController::noReminderOverAnOpenWindow()
-{
-    RunningApp::Store().setValue("Application/Settings", QVariantMap{{"Remind", true}});
-    const RunningApp running;
-    QWidget *const main = RunningApp::Find<MainDialog>();
-    QWidget *const panel = RunningApp::Find<DialogPreferences>();
-    for (QWidget *open : {main, panel, static_cast<QWidget *>(nullptr)}) {
-        main->setVisible(open == main);
-        panel->setVisible(open == panel);
-        running.Sample(RunningApp::Report(1, 300000, 1, 1));
-        QCOMPARE(RunningApp::Find<DialogReminder>()->isVisible(), open == nullptr);
-    }
-}
 
 QTEST_APPLESS_MAIN(TestController)
 #include "TestController.moc"

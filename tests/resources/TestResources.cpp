@@ -3,35 +3,18 @@
 #include "tests/support/FailOnWarnings.h"
 
 #include <QImageReader>
-#include <QtTest>
 
 class TestResources : public QObject
 {
     Q_OBJECT
 
 private slots:
-    void init() { FailOnWarnings(); }
-
     void pictures()
     {
         for (const char *name : {":/app16.png", ":/app16_invert.png", ":/piechart.png", ":/app96.png"}) {
             const QImage image(name);
             QVERIFY2(image.height() == (qstrcmp(name, ":/app96.png") == 0 ? 96 : 16), name);
             QVERIFY(qAlpha(image.pixel(0, 0)) == 0 && qAlpha(image.pixel(image.rect().center())) > 200);
-        }
-    }
-
-    /// On whatever panel there is.
-    void plainIconStandsOut()
-    {
-        const QImage glyph(":/app16.png");
-        for (const int ground : {255, 239, 120, 40, 0}) {
-            int clear = 0;
-            for (int i = 0; i < 16 * 16; ++i) {
-                const QRgb pixel = glyph.pixel(i % 16, i / 16);
-                clear += qAbs(qGray(pixel) - ground) * qAlpha(pixel) / 255 > 90 ? 1 : 0;
-            }
-            QVERIFY2(clear >= 40, qPrintable(QString("ground %1: %2 pixels").arg(ground).arg(clear)));
         }
     }
 

@@ -5,40 +5,29 @@
 #include <QFile>
 
 /// A shell script in the Resources directory of the running test's own bundle, gone again with the object:
-/// the freeing helper ("memfree"), or with BundledFake::InPath() the "vm_stat" that a user has installed.
+/// the freeing helper "memfree", or after InPath() a "vm_stat" as a user may have installed it.
 class BundledFake
 {
 public:
-    explicit BundledFake(const QString &name, const QByteArray &body = {})
-        : path(Global::BundledResourcesDirectory() + QLatin1Char('/') + name)
-    {
-        if (!body.isNull()) {
-            Write(body);
-        }
-    }
+    explicit BundledFake(const char *name) : path(Global::BundledResourcesDirectory() + '/' + name) {}
+    BundledFake(const char *name, const QByteArray &body) : BundledFake(name) { Write(body); }
     ~BundledFake() { QFile::remove(path); }
     Q_DISABLE_COPY_MOVE(BundledFake)
 
-    /// Makes the fakes the first programs in PATH. A vm_stat is searched for once, at the first sample, so it
-    /// must be there by then.
     static void InPath()
     {
         qputenv("PATH", QFile::encodeName(Global::BundledResourcesDirectory()) + ":/usr/bin:/bin");
     }
 
-    /// Replaces the script. Written beside and renamed, since a running script must not be written over.
     void Write(const QByteArray &body, bool bExecutable = true) const
     {
-        QFile file(path + QStringLiteral(".new"));
-        if (!file.open(QIODevice::WriteOnly | QIODevice::Truncate)) {
-            qFatal("cannot write %s", qPrintable(file.fileName()));
+        QFile::remove(path); // it may be running
+        QFile file(path);
+        const auto all = QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner;
+        if (!file.open(QIODevice::WriteOnly) || file.write("#!/bin/sh\n" + body + '\n') < 0 ||
+            !file.setPermissions(bExecutable ? all : QFile::ReadOwner)) {
+            qFatal("cannot write %s", qPrintable(path));
         }
-        file.write("#!/bin/sh\n" + body + "\n");
-        file.close();
-        const auto permissions = QFileDevice::ReadOwner | QFileDevice::WriteOwner;
-        file.setPermissions(bExecutable ? permissions | QFileDevice::ExeOwner : permissions);
-        QFile::remove(path);
-        file.rename(path);
     }
 
     const QString path;

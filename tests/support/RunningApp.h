@@ -11,15 +11,28 @@
 #include <QSettings>
 #include <QTranslator>
 
-/// A whole application for one test: the real controller over a vm_stat whose report the test sets.
-class RunningApp
+/// A vm_stat in PATH with the page counts that a test sets. It must be there at the process's first sample.
+class FakeReport : BundledFake
 {
 public:
-    explicit RunningApp(const QByteArray &report = Report(1000, 20, 30, 7),
-                        const QList<QTranslator *> &catalogues = {})
-        : app(count, arguments), vmStat(QStringLiteral("vm_stat"), report)
+    FakeReport(int free, int inactive, int active, int wired) : BundledFake("vm_stat")
     {
-        BundledFake::InPath();
+        InPath();
+        Set(free, inactive, active, wired);
+    }
+    void Set(int free, int inactive, int active, int wired) const
+    {
+        const char *format =
+            "echo Pages free: %d. Pages active: %d. Pages inactive: %d. Pages wired down: %d.";
+        Write(QString::asprintf(format, free, active, inactive, wired).toLatin1());
+    }
+};
+
+/// A whole application for one test: the real controller over a fake report.
+struct RunningApp
+{
+    explicit RunningApp(const QList<QTranslator *> &catalogues = {})
+    {
         for (QTranslator *catalogue : catalogues) {
             QCoreApplication::installTranslator(catalogue);
         }
@@ -27,21 +40,6 @@ public:
     }
     ~RunningApp() { delete Find<QMenu>(); } // the program never does: it lives until the process ends
     Q_DISABLE_COPY_MOVE(RunningApp)
-
-    /// The script of a vm_stat that counts these pages.
-    static QByteArray Report(int free, int inactive, int active, int wired)
-    {
-        const char *format =
-            "echo Pages free: %d. Pages active: %d. Pages inactive: %d. Pages wired down: %d.";
-        return QString::asprintf(format, free, active, inactive, wired).toLatin1();
-    }
-
-    /// Sets the report and takes a sample.
-    void Sample(const QByteArray &report) const
-    {
-        vmStat.Write(report);
-        Find<MainDialog>()->UpdateStats();
-    }
 
     /// A widget of one of the windows, by its class and where need be its object name.
     template <class T> static T *Find(const char *name = nullptr)
@@ -55,15 +53,14 @@ public:
         }
         return nullptr;
     }
-
     /// What is stored, also before there is an application.
-    static QSettings Store() { return QSettings(QStringLiteral("Orvanta"), QStringLiteral("Kelvo")); }
+    static QSettings Store() { return QSettings("Orvanta", "Kelvo"); }
 
     // Qt wants its arguments to outlive the application.
     static inline int count = 1;
     static inline char name[] = "kelvo";
     static inline char *arguments[] = {name, nullptr};
 
-    MyApp app;
-    const BundledFake vmStat;
+    MyApp app{count, arguments};
+    const FakeReport report{1000, 20, 30, 7};
 };

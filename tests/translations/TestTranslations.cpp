@@ -115,8 +115,8 @@ private slots:
         QTranslator ourTexts;
         QCOMPARE(qtTexts.load("qt_" + locale, CATALOGUES), language != "hi"); // Qt does not know that one
         QVERIFY(ourTexts.load("my_" + locale, CATALOGUES));
-        RunningApp running(RunningApp::Report(268433408, 268433408, 268433408, 268433408),
-                           {&qtTexts, &ourTexts});
+        RunningApp running({&qtTexts, &ourTexts});
+        running.report.Set(268433408, 268433408, 268433408, 268433408);
         QCOMPARE(QCoreApplication::translate("QPlatformTheme", "Cancel") != "Cancel", language != "hi");
 
         auto *window = RunningApp::Find<MainDialog>();
