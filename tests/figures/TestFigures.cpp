@@ -22,8 +22,7 @@ private slots:
         QLocale::setDefault(QLocale(QLocale::English, QLocale::UnitedStates));
         QCOMPARE(FormatSizeString(-5), "-5 bytes");
         QCOMPARE(FormatSizeString(1023), "1,023 bytes");
-        QCOMPARE(FormatSizeString(1048575), "1,023 KB"); // cut off
-        QCOMPARE(FormatSizeString(1048576), "1.0 MB");
+        QCOMPARE(FormatSizeString(1048575), "1,023 KB");      // cut off
         QCOMPARE(FormatSizeString(1073741823), "1,024.0 MB"); // rounded, past its unit
         QCOMPARE(FormatSizeString(1099511627776), "1.000 TB");
         QLocale::setDefault(QLocale(QLocale::German, QLocale::Germany));
@@ -90,17 +89,6 @@ private slots:
         QVERIFY(qAbs(rim.pixelColor(36, 36).alpha() - 43) <= 2 &&
                 qAbs(rim.pixelColor(36, 0).alpha() - 15) <= 5);
         QVERIFY(pie.pixelColor(0, 0).alpha() == 0 && pie.pixelColor(36, 1).alpha() < 60);
-    }
-
-    void iconOutlines()
-    {
-        QVERIFY(DrawColorPie(PieSlices{5760}).toImage().pixelColor(32, 3).green() < 150);
-        for (const int scale : {1, 2}) {
-            const QImage mono = DrawMonoPie(PieSlices{2880}, scale).toImage();
-            QCOMPARE(mono.pixelColor(8 * scale, 16 * scale), QColor(Qt::white));
-            QCOMPARE(mono.pixelColor(24 * scale, 16 * scale), QColor(Qt::black));
-            QCOMPARE(mono.pixelColor(2 * scale, 16 * scale), QColor(Qt::black)); // round the white slice too
-        }
     }
 };
 

@@ -27,8 +27,7 @@ private slots:
     void init()
     {
         FailOnWarnings();
-        directory = std::make_unique<QTemporaryDir>();
-        qputenv("XDG_RUNTIME_DIR", QFile::encodeName(directory->path()));
+        qputenv("XDG_RUNTIME_DIR", QFile::encodeName(directory.path()));
         running = std::make_unique<InstanceChannel>(identity);
         received = std::make_unique<QSignalSpy>(running.get(), SIGNAL(MessageReceived(QString)));
     }
@@ -52,18 +51,16 @@ private slots:
         QVERIFY(!running->IsRunning());
         QVERIFY(InstanceChannel(identity).IsRunning());
         QProcess helper;
-        helper.start("sleep", {"60"});
+        helper.start("sleep", {"3"});
         QVERIFY(helper.waitForStarted());
         running.reset();
         QVERIFY(!InstanceChannel(identity).IsRunning());
-        helper.kill();
-        helper.waitForFinished();
     }
 
     void waitsForTheNextRunningCopy()
     {
         // A copy that holds the lock and does not listen, whether not yet or no more.
-        QFile lock(Path("lock"));
+        QFile lock(Path(".lock"));
         QVERIFY(lock.open(QIODevice::ReadWrite));
         QCOMPARE(flock(lock.handle(), LOCK_EX), 0);
         QTimer::singleShot(300, &lock, [&] {
@@ -80,10 +77,10 @@ private slots:
         QLocalSocket silent;
         QLocalSocket tooLong;
         for (QLocalSocket *stranger : {&silent, &tooLong}) {
-            stranger->connectToServer(Path("socket"));
+            stranger->connectToServer(Path(".socket"));
             stranger->write("\0\x10\0\x01hal", 7);
         }
-        tooLong.write(QByteArray(maxMessageBytes, 'x'));
+        tooLong.write(QByteArray(maxMessageBytes - 2, 'x')); // by a byte
         QTRY_COMPARE_WITH_TIMEOUT(tooLong.state(), QLocalSocket::UnconnectedState, 2000);
         QVERIFY(SendFromAnother("message"));
         QCOMPARE(silent.state(), QLocalSocket::ConnectedState); // an honest copy would wait so long, too
@@ -94,7 +91,7 @@ private slots:
 private:
     QString Path(const QString &suffix) const
     {
-        return directory->filePath(QString("%1-%2.%3").arg(identity).arg(getuid()).arg(suffix));
+        return directory.filePath(identity + '-' + QString::number(getuid()) + suffix);
     }
     /// Sends from a thread of its own, standing for another copy, while this one's event loop turns.
     static bool SendFromAnother(const QString &message)
@@ -106,7 +103,7 @@ private:
         return QTest::qWaitFor([&] { return other->isFinished(); }, 30000) && bSent;
     }
 
-    std::unique_ptr<QTemporaryDir> directory;
+    const QTemporaryDir directory;
     std::unique_ptr<InstanceChannel> running;
     std::unique_ptr<QSignalSpy> received;
 };

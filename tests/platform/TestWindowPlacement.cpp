@@ -21,9 +21,9 @@ class TestWindowPlacement : public QObject
 private slots:
     void initTestCase_data()
     {
-        QTest::addColumn<bool>("bFrameless");
-        QTest::newRow("framed") << false;
-        QTest::newRow("frameless") << true;
+        QTest::addColumn<Qt::WindowFlags>("flags");
+        QTest::newRow("framed") << Qt::WindowFlags();
+        QTest::newRow("frameless") << Qt::WindowFlags(Qt::FramelessWindowHint);
     }
     void initTestCase()
     {
@@ -41,10 +41,9 @@ private slots:
         FailOnWarnings();
         frame = std::make_unique<QFrame>();
         placement = new WindowPlacement(frame.get());
-        QFETCH_GLOBAL(bool, bFrameless);
+        QFETCH_GLOBAL(Qt::WindowFlags, flags);
         frame->setFixedSize(343, 276);
-        frame->setWindowFlags(Qt::WindowSystemMenuHint | Qt::WindowStaysOnTopHint |
-                              (bFrameless ? Qt::FramelessWindowHint : Qt::WindowFlags()));
+        frame->setWindowFlags(Qt::WindowSystemMenuHint | Qt::WindowStaysOnTopHint | flags);
     }
 
     void reachable()
@@ -70,7 +69,7 @@ private slots:
         QTRY_COMPARE(Place(), frame->pos());
         const QPoint before = frame->pos();
         for (int i = 0; i < 2; ++i) {
-            Hide();
+            Show(false);
             // Some window managers do this with the frame that they take away.
             const int32_t place[] = {before.x() + 5, before.y() + 40};
             xcb_configure_window(Connection(), Id(), XCB_CONFIG_WINDOW_X | XCB_CONFIG_WINDOW_Y, place);
@@ -90,7 +89,7 @@ private slots:
             Show();
             QTRY_COMPARE(Place(), place);
             QCOMPARE(placement->PositionToStore(), place);
-            Hide();
+            Show(false);
         }
     }
 
@@ -101,7 +100,7 @@ private slots:
             Show();
             QTRY_VERIFY(frame->screen()->geometry().contains(QRect(Place(), frame->frameSize())));
             QCOMPARE(placement->PositionToStore(), QPoint(5000, 300));
-            Hide();
+            Show(false);
         }
         Show();
         frame->move(500, 400);
@@ -115,27 +114,20 @@ private slots:
         QVERIFY(QTest::qWaitForWindowExposed(frame.get()));
         QVERIFY(!placement->StartDrag());
         frame->move(500, 400);
-        QTest::qWait(msSettled);
+        QTest::qWait(400);
         QTRY_COMPARE(Place(), QPoint(500, 400));
     }
 
 private:
-    static constexpr int msSettled = 400; // a window manager that is not busy needs less
-
     static xcb_connection_t *Connection()
     {
         return qGuiApp->nativeInterface<QNativeInterface::QX11Application>()->connection();
     }
     xcb_window_t Id() const { return static_cast<xcb_window_t>(frame->windowHandle()->winId()); }
-    void Show() const
+    void Show(bool bVisible = true) const
     {
-        frame->show();
-        QTest::qWait(msSettled);
-    }
-    void Hide() const
-    {
-        frame->hide();
-        QTest::qWait(50);
+        frame->setVisible(bVisible);
+        QTest::qWait(bVisible ? 400 : 50); // a window manager that is not busy needs less
     }
     /// Where the server says that the window's frame is, whatever Qt believes.
     QPoint Place() const
