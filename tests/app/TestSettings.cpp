@@ -20,7 +20,7 @@ private slots:
         QSettings().clear();
         const QVariantMap record = LoadSettings();
         QCOMPARE(record.size(), 10); // MonoColor has no default
-        QVariantList stored{{}, "text", QVariantList{1}, QVariant::fromValue(QVariantHash())};
+        QVariantList stored{{}, "text", QVariantList{1}, QVariant(record).toHash()};
         // Most of these equal ours: QVariant converts.
         for (const auto &[key, value] : std::initializer_list<std::pair<QString, QVariant>>{
                  {"PieChartIcon", "true"}, {"RemindThreshold", 1}, {"Remind", true}, {"New", 1}}) {

@@ -61,7 +61,7 @@ private slots:
     void freeingRun()
     {
         const RunningApp running;
-        const BundledFake memfree("memfree", "[ $1 = 109035520 ] && sleep 0.2");
+        const BundledFake memfree("memfree", "echo $1 >$0.target; sleep 0.2");
         const auto *wait = RunningApp::Find<QLabel>("labelWait");
         Button()->click();
         QTRY_VERIFY(wait->isVisible() && !Button()->isEnabled());
@@ -70,6 +70,10 @@ private slots:
         QCOMPARE(Text("labelFree"), "3.9 MB");
         QTRY_VERIFY(!wait->isVisible() && Button()->isEnabled());
         QCOMPARE(Text("labelReturned"), "0 bytes"); // a loss is no gain
+        QFile target(memfree.path + ".target");
+        QVERIFY(target.open(QIODevice::ReadOnly));
+        QCOMPARE(target.readAll(), "109035520\n"); // free, inactive and 100 MiB
+        target.remove();
     }
 
     /// Whoever calls or sends, the whole work is done, and nobody is deleted.

@@ -87,10 +87,12 @@ private slots:
             {"echo a; exit 1", {}},
             {"echo a; kill -9 $$", {}},
             {"exec yes", {}}};
+        const QDeadlineTimer deadline(5000);
         for (const auto &[body, report] : cases) {
             program.Write(body);
             QCOMPARE(VmStat(), report);
         }
+        QVERIFY(!deadline.hasExpired());
         program.Write("echo a", false);
         QCOMPARE(Counts(VmStat()).size(), 5);
     }
