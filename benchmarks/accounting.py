@@ -1,20 +1,12 @@
-"""What a program costs: CPU time with that of its dead children, its share of memory, its wake-ups.
-
-Where no control group can be made: accounting.py COMMAND ... runs a program until SIGTERM, then prints the milliseconds
-of CPU time that it and everything it left behind have used.
-"""
-import ctypes
+"""What a program costs: CPU time with that of its dead children, memory, wake-ups, what it starts."""
 import itertools
 import os
-import resource
 import signal
 import subprocess
-import sys
 import time
 from contextlib import suppress
 from pathlib import Path
 
-PR_SET_CHILD_SUBREAPER = 36
 numbers = itertools.count()
 
 
@@ -82,21 +74,10 @@ class Group:
 
 
 def memory_mib(pid):
-    """Memory of a process with shared pages by their share, and with shared pages counted in full."""
+    """Memory of a process: anonymous, all with shared pages by their share (PSS), all in full (RSS)."""
     lines = (line.split() for line in Path(f"/proc/{pid}/smaps_rollup").read_text().splitlines()[1:])
     sizes = {words[0]: int(words[1]) / 1024 for words in lines}
-    return sizes["Pss:"], sizes["Rss:"]
-
-
-def sharers(library):
-    """Processes that have this library mapped, and so take a share of it."""
-    count = 0
-    for maps in Path("/proc").glob("[0-9]*/maps"):
-        try:
-            count += library in maps.read_text(errors="replace")
-        except OSError:
-            continue
-    return count
+    return sizes["Anonymous:"], sizes["Pss:"], sizes["Rss:"]
 
 
 def switches(pid):
@@ -118,20 +99,18 @@ def wake_ups(pid, seconds):
     return moments
 
 
-def main(command):
-    ctypes.CDLL(None).prctl(PR_SET_CHILD_SUBREAPER, 1, 0, 0, 0)
-    signal.pthread_sigmask(signal.SIG_BLOCK, [signal.SIGTERM])
-    process = subprocess.Popen(command, preexec_fn=lambda: signal.pthread_sigmask(signal.SIG_UNBLOCK, [signal.SIGTERM]))
-    signal.sigwait([signal.SIGTERM])
-    process.terminate()
-    process.wait()
-    try:
-        while True:
-            os.wait()
-    except ChildProcessError:
-        used = resource.getrusage(resource.RUSAGE_CHILDREN)
-        print((used.ru_utime + used.ru_stime) * 1000)
+# Words to put before a command, so that it runs in a process namespace of its own.
+ALONE = ["unshare", "--pid", "--fork", "--kill-child"]
 
 
-if __name__ == "__main__":
-    main(sys.argv[1:])
+def can_be_alone():
+    """Whether a process namespace can be made here."""
+    return subprocess.run([*ALONE, "true"], capture_output=True).returncode == 0
+
+
+def started(launcher, seconds):
+    """Processes and threads that a command run ALONE starts: each takes the namespace's next number, and so do we."""
+    ask = ["nsenter", f"--pid=/proc/{launcher}/ns/pid_for_children", "sh", "-c", "echo $$"]
+    before = int(subprocess.check_output(ask))
+    time.sleep(seconds)
+    return int(subprocess.check_output(ask)) - before - 1

@@ -1,4 +1,5 @@
 """A program to be measured, on a desktop of its own with a tray that tells when it has appeared."""
+import os
 import signal
 import time
 
@@ -12,12 +13,22 @@ from tray import TrayItem, Watcher
 SETTLE_SECONDS = 5
 RESUME_SECONDS = 2.5
 
+# A vm_stat of 4.4 GB whose free and inactive memory change by so many pages from one sample to the next.
+REPORT = """#!/bin/sh
+pages=0
+rm "$0.moved" || {{ pages={}; : >"$0.moved"; }}
+echo "Pages free: $((287179 + pages))."
+echo "Pages inactive: $((289538 - pages))."
+echo "Pages active: 288358."
+echo "Pages wired down: 288358."
+"""
+
 
 class Bench:
     """One program: "floor", "kelvo", "kelvo, window shown" or one of the peers."""
 
     def __init__(self, built, subject, tray="XEmbed"):
-        self.desktop = Desktop("1280x800")
+        self.built, self.desktop = built, Desktop("1280x800")
         # Nobody reads the screen aloud here, and preparing for it costs.
         del self.desktop.env["QT_LINUX_ACCESSIBILITY_ALWAYS_ON"]
         self.tray = {"XEmbed": XEmbedTray, "StatusNotifierItem": Panel}[tray](self.desktop, built)
@@ -29,12 +40,10 @@ class Bench:
                 path.write_text(text)
             self.command, self.desktop.env = peer.command, {**self.desktop.env, **peer.environment}
         elif subject == "floor":
-            self.command = [built / "bin/bench_floor", built / "Resources/vm_stat"]
+            self.command = [built / "bin/bench_floor", built / "bin/bench_child"]
         else:
-            kelvo = Kelvo(self.desktop, built / "bin/kelvo")
-            kelvo.use_built_resources()
-            kelvo.store({"HideAtStartUp": subject != "kelvo, window shown"})
-            self.command = [kelvo.program]
+            self.command = [built / "bin/kelvo"]
+            Kelvo(self.desktop, *self.command).store({"HideAtStartUp": subject != "kelvo, window shown"})
 
     def __enter__(self):
         return self
@@ -62,12 +71,38 @@ class Bench:
         return seconds * 1000
 
     def memory_mib(self):
-        """The memory in MiB: shared pages by their share, and counted in full."""
+        """Memory in MiB: anonymous, PSS, RSS."""
         return accounting.memory_mib(self.start().pid)
 
     def wake_ups(self, seconds):
         """Moments awake in a minute."""
         return accounting.wake_ups(self.start().pid, seconds) * 60 / seconds
+
+    def started(self, seconds):
+        """Processes started in a minute."""
+        return accounting.started(self.start(*accounting.ALONE).pid, seconds) * 60 / seconds
+
+    def messages(self, pages, seconds):
+        """Messages on the session bus in a minute, whoever sends them, while a fake vm_stat moves pages to and fro."""
+        programs = self.desktop.home / "programs"
+        programs.mkdir()
+        (programs / "vm_stat").write_text(REPORT.format(pages))
+        (programs / "vm_stat").chmod(0o755)
+        self.desktop.env["PATH"] = f"{programs}:{os.environ['PATH']}"
+        self.start()
+        self.desktop.spawn("dbus-monitor", "--profile", log="messages.log")
+        time.sleep(1)
+        log = self.desktop.home / "messages.log"
+        before = len(log.read_text().splitlines())
+        time.sleep(seconds)
+        return (len(log.read_text().splitlines()) - before) * 60 / seconds
+
+    def samples(self, count):
+        """So many samples at once: median microseconds of one; anonymous KiB and descriptors, each early and late."""
+        process = self.desktop.spawn(self.built / "bin/bench_samples", count, log="samples.log")
+        process.wait()
+        self.tray.first_since(0)
+        return tuple(map(float, (self.desktop.home / "samples.log").read_text().split()))
 
 
 class Appearances:
@@ -125,16 +160,13 @@ class Account:
     programs, and side by side the second would find its caches warmed by the first.
     """
 
-    def __init__(self, bench):
-        self.bench, self.group = bench, accounting.Group.create()
-        if self.group:
-            bench.start(*self.group.launcher())
-            self.group.signal(signal.SIGSTOP)
+    def __init__(self, bench, group):
+        self.group = group
+        bench.start(*group.launcher())
+        self.group.signal(signal.SIGSTOP)
 
     def cpu_ms(self, seconds):
         """CPU milliseconds in a minute."""
-        if not self.group:
-            return self._cpu_ms_of_two_lives(seconds)
         self.group.signal(signal.SIGCONT)
         time.sleep(RESUME_SECONDS)
         before = self.group.cpu_ms()
@@ -143,18 +175,5 @@ class Account:
         self.group.signal(signal.SIGSTOP)
         return used * 60 / seconds
 
-    def _cpu_ms_of_two_lives(self, seconds):
-        """Where no control group can be made: what a long life costs more than a short one."""
-        used = []
-        for life in SETTLE_SECONDS, SETTLE_SECONDS + seconds:
-            process = self.bench.desktop.spawn("/usr/bin/python3", "-B", accounting.__file__, *self.bench.command,
-                                               log=f"life-{life}.log")
-            time.sleep(life)
-            process.terminate()
-            process.wait()
-            used.append(float((self.bench.desktop.home / f"life-{life}.log").read_text().split()[-1]))
-        return (used[1] - used[0]) * 60 / seconds
-
     def close(self):
-        if self.group:
-            self.group.remove()
+        self.group.remove()
