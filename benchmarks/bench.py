@@ -174,6 +174,3 @@ class Account:
         used = self.group.cpu_ms() - before
         self.group.signal(signal.SIGSTOP)
         return used * 60 / seconds
-
-    def close(self):
-        self.group.remove()
