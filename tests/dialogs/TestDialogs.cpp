@@ -1,6 +1,5 @@
-// The preferences panel over any record and beside the main window; how the reminder answers.
+// The preferences panel with any record; how the reminder answers.
 
-#include "dialogs/DialogAbout.h"
 #include "dialogs/DialogPreferences.h"
 #include "dialogs/DialogReminder.h"
 #include "tests/support/FailOnWarnings.h"
@@ -52,30 +51,6 @@ private slots:
         QVERIFY(mono->isHidden() && panel.GetSettings()["MonoColor"].toBool());
     }
 
-    /// Only where a window that stays on top would cover it, and where the user has not moved it clear.
-    void panelStandsBeside()
-    {
-        QWidget other;
-        other.setGeometry(20, 30, 200, 80);
-        DialogPreferences panel(nullptr);
-        panel.move(other.pos());
-        const auto moves = [&] {
-            const QPoint before = panel.pos();
-            panel.PlaceBeside(&other);
-            return panel.pos() != before;
-        };
-        other.show();
-        QVERIFY(!moves()); // it can be covered itself
-        other.setWindowFlag(Qt::WindowStaysOnTopHint);
-        QVERIFY(!moves()); // hidden
-        other.show();
-        QVERIFY(moves() && !panel.frameGeometry().intersects(other.frameGeometry()));
-        panel.show();
-        panel.hide();
-        panel.move(panel.screen()->availableGeometry().center());
-        QVERIFY(!moves());
-    }
-
     /// One reminder serves the whole run, hides before it answers, and grows with its message.
     void reminder()
     {
@@ -98,14 +73,6 @@ private slots:
         dialog.show();
         dialog.SetMessage(QString("a long message ").repeated(30));
         QTRY_VERIFY(dialog.height() > height);
-    }
-
-    void aboutOpensNothingAtReturn()
-    {
-        DialogAbout dialog(nullptr);
-        dialog.Show();
-        QTest::keyClick(&dialog, Qt::Key_Return);
-        QVERIFY(dialog.isVisible()); // feedback hides it
     }
 };
 

@@ -97,24 +97,6 @@ private slots:
         QCOMPARE(listener.heard, QStringList({"finished", "finished"}));
     }
 
-    void writingForEver()
-    {
-        const auto residentKiB = [] {
-            QFile file("/proc/self/statm");
-            return file.open(QIODevice::ReadOnly) ? file.readAll().split(' ').at(1).toInt() * 4 : 0;
-        };
-        Install("exec timeout 0.5 yes");
-        const Listener listener;
-        listener.worker->Start(0, 0);
-        QTRY_VERIFY(IsRunning("pid"));
-        const int before = residentKiB();
-        // Not qWait(), which sleeps: what arrives is to be read as fast as it can be.
-        while (HaveChild()) {
-            QCoreApplication::processEvents();
-        }
-        QVERIFY2(residentKiB() - before < 65536, "what the helper wrote was kept");
-    }
-
     void failingCostsNothing()
     {
         Listener listener;

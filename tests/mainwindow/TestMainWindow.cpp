@@ -1,4 +1,4 @@
-// The main window: alone, what it draws when, and a freeing run from click to result.
+// The main window: alone, what it draws when, and the odd ways of a freeing run.
 
 #include "dialogs/DialogWarning.h"
 #include "freeing/WorkerThread.h"
@@ -56,24 +56,6 @@ private slots:
         Window()->show();
         Window()->UpdateStats();
         QCOMPARE(left(), QColor(Qt::green));
-    }
-
-    void freeingRun()
-    {
-        const RunningApp running;
-        const BundledFake memfree("memfree", "echo $1 >$0.target; sleep 0.2");
-        const auto *wait = RunningApp::Find<QLabel>("labelWait");
-        Button()->click();
-        QTRY_VERIFY(wait->isVisible() && !Button()->isEnabled());
-        running.report.Set(900, 20, 30, 7);
-        Window()->OnTimeOut(); // no sample while the helper works
-        QCOMPARE(Text("labelFree"), "3.9 MB");
-        QTRY_VERIFY(!wait->isVisible() && Button()->isEnabled());
-        QCOMPARE(Text("labelReturned"), "0 bytes"); // a loss is no gain
-        QFile target(memfree.path + ".target");
-        QVERIFY(target.open(QIODevice::ReadOnly));
-        QCOMPARE(target.readAll(), "109035520\n"); // free, inactive and 100 MiB
-        target.remove();
     }
 
     /// Whoever calls or sends, the whole work is done, and nobody is deleted.
