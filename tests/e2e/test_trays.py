@@ -53,7 +53,8 @@ class Trays(DesktopTest):
         self.assertFalse(self.kelvo.window(0.5))
         self.desktop.click(icon)
         self.assertTrue(self.kelvo.window(), "a left click shows no window")
-        self.assertEqual(self.kelvo.popup(lambda: self.desktop.click(icon, button=3)), [text.strip("-") for text in MENU])
+        menu = self.kelvo.popup(lambda: self.desktop.click(icon, button=3))
+        self.assertEqual(menu, [text.strip("-") for text in MENU])
         self.desktop.run("xdotool", "key", "Escape")
         # It is alive: the pie comes with the first timed sample.
         x, y, width, height = self.desktop.place(icon)

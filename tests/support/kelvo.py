@@ -47,8 +47,8 @@ class Kelvo:
     def report(self, text, then=""):
         """From here on vm_stat prints this text, and then does what is asked; Kelvo must have found it at its start."""
         self.reports += 1  # each in a file of its own: a vm_stat that runs already goes on printing its own
-        self.put(self.directory / f"report-{self.reports}", text)
-        self.install("vm_stat", f"echo >>'{self.directory}/asked'; cat '{self.directory}/report-{self.reports}'; {then}")
+        self.put(file := self.directory / f"report-{self.reports}", text)
+        self.install("vm_stat", f"echo >>'{self.directory}/asked'; cat '{file}'; {then}")
 
     def asked(self):
         """How often vm_stat has been asked."""
