@@ -5,6 +5,7 @@
 #include "dialogs/DialogPreferences.h"
 #include "dialogs/DialogReminder.h"
 #include "mainwindow/MainDialog.h"
+#include "platform/TrayHost.h"
 
 #include <QAction>
 #include <QEvent>
@@ -60,6 +61,7 @@ void MyApp::InitializeWidgets()
 
     mainDialog = new MainDialog(nullptr);
     mainDialog->setVisible(false);
+    mainDialog->installEventFilter(this);
 
     dialogAbout = new DialogAbout(nullptr);
     dialogAbout->setVisible(false);
@@ -89,11 +91,23 @@ void MyApp::InitializeWidgets()
     InitializeTrayIcon();
 }
 
+/// Shows a window that the user has asked for, above all others and with the keyboard.
+static void BringToFront(QWidget *window)
+{
+    window->setWindowState(window->windowState() & ~Qt::WindowMinimized);
+    const bool bWayland = QGuiApplication::platformName().startsWith(QLatin1String("wayland"));
+    if (bWayland && !window->isActiveWindow() && !qEnvironmentVariableIsSet("XDG_ACTIVATION_TOKEN")) {
+        // Without a token the compositor leaves a window where it is, but puts a new one on top.
+        window->setVisible(false);
+    }
+    window->setVisible(true);
+    window->raise();
+    window->activateWindow();
+}
+
 void MyApp::OnShowMainDialog()
 {
-    mainDialog->setWindowState(mainDialog->windowState() & ~Qt::WindowMinimized);
-    mainDialog->setVisible(true);
-    mainDialog->raise();
+    BringToFront(mainDialog);
 }
 
 void MyApp::OnFreeMemory()
@@ -105,8 +119,12 @@ void MyApp::OnFreeMemory()
 void MyApp::OnPreferences()
 {
     dialogPreferences->PlaceBeside(mainDialog);
-    dialogPreferences->setVisible(true);
-    dialogPreferences->raise();
+    BringToFront(dialogPreferences);
+}
+
+void MyApp::OnAbout()
+{
+    BringToFront(dialogAbout);
 }
 
 // NOLINTNEXTLINE(performance-unnecessary-value-param): the slot's given signature
@@ -124,4 +142,14 @@ bool MyApp::event(QEvent *event)
         quit();
     }
     return QtSingleApplication::event(event);
+}
+
+bool MyApp::eventFilter(QObject *watched, QEvent *event)
+{
+    // Without a tray, a program without a window could not be reached any more. Queued, since quit() closes
+    // every window itself.
+    if (watched == mainDialog && event->type() == QEvent::Close && !TrayHost::IsAvailable()) {
+        QMetaObject::invokeMethod(this, "quit", Qt::QueuedConnection);
+    }
+    return QtSingleApplication::eventFilter(watched, event);
 }

@@ -49,17 +49,24 @@ public slots:
 
 protected:
     bool event(QEvent *event) override;
+    bool eventFilter(QObject *watched, QEvent *event) override;
+
+private slots:
+    void OnAbout();
+    void OnTrayAbsent();
+    void OnContextMenu(const QPoint &position = {});
 
 private:
     /// Saves everything, for an end without destructors: Qt calls exit() when the X server has gone.
     void SaveAll();
     void InitializeTrayIcon();
-    void ShowTrayIcon(QMenu *menu);
+    void ShowTrayIcon();
     void SetPlainIcon();
     void UpdateIcon(const QVariantMap &stats);
     void Remind(const QVariantMap &stats);
 
     QSystemTrayIcon *trayIcon = nullptr;
+    QMenu *statusMenu = nullptr;
     QAction *actionFree = nullptr;
     QAction *actionActive = nullptr;
     QAction *actionInactive = nullptr;

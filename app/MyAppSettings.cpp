@@ -34,6 +34,7 @@ void MyApp::OnSettingChanged()
         }
     }
     if (!flag("PieChartIcon") && settings[QStringLiteral("PieChartIcon")].toBool()) {
+        settings[QStringLiteral("PieChartIcon")] = false; // which icon it is depends on that
         SetPlainIcon();
     }
     // Deliberate: at the start both are the stored record, so the window samples every 2 s whatever is

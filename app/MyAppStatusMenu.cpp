@@ -1,7 +1,9 @@
 // The status icon and its menu.
 
 #include "app/MyApp.h"
+#include "app/StatusMenu.h"
 #include "dialogs/DialogAbout.h"
+#include "dialogs/DialogPreferences.h"
 #include "figures/PieChart.h"
 #include "mainwindow/MainDialog.h"
 #include "platform/Global.h"
@@ -11,37 +13,52 @@
 #include <QMenu>
 #include <QPainter>
 #include <QSettings>
+#include <QShortcut>
 #include <QSystemTrayIcon>
 
 void MyApp::InitializeTrayIcon()
 {
     // Deliberately without a parent and never deleted: the desktop may hold on to it until the process ends.
-    auto *menu = new QMenu;
+    statusMenu = new StatusMenu;
     const auto addEntry = [&](const QString &text, QObject *receiver, const char *slot) {
         auto *entry = new QAction(text, this);
         connect(entry, SIGNAL(triggered()), receiver, slot);
-        menu->addAction(entry);
+        statusMenu->addAction(entry);
+        return entry;
     };
     // Deliberately another order than that of creation: free first, then by what freeing can give back.
-    menu->addAction(actionFree);
-    menu->addAction(actionWired);
-    menu->addAction(actionActive);
-    menu->addAction(actionInactive);
-    menu->addSeparator();
+    statusMenu->addAction(actionFree);
+    statusMenu->addAction(actionWired);
+    statusMenu->addAction(actionActive);
+    statusMenu->addAction(actionInactive);
+    statusMenu->addSeparator();
     addEntry(tr("Free Memory Now!"), this, SLOT(OnFreeMemory()));
-    menu->addSeparator();
-    addEntry(tr("Kelvo Preferences..."), this, SLOT(OnPreferences()));
-    addEntry(tr("About Kelvo"), dialogAbout, SLOT(show()));
-    menu->addSeparator();
-    addEntry(tr("Quit"), this, SLOT(quit()));
+    statusMenu->addSeparator();
+    QAction *preferences = addEntry(tr("Kelvo Preferences..."), this, SLOT(OnPreferences()));
+    QAction *about = addEntry(tr("About Kelvo"), dialogAbout, SLOT(show()));
+    connect(about, SIGNAL(triggered()), this, SLOT(OnAbout()));
+    statusMenu->addSeparator();
+    QAction *quitEntry = addEntry(tr("Quit"), this, SLOT(quit()));
+
+    // The same menu and its keys in the windows, for desktops without a tray. Not in the reminder: it may get
+    // keys that were meant for another program.
+    preferences->setShortcut(Qt::CTRL | Qt::Key_Comma);
+    quitEntry->setShortcut(Qt::CTRL | Qt::Key_Q);
+    for (QWidget *window : std::initializer_list<QWidget *>{mainDialog, dialogPreferences, dialogAbout}) {
+        window->addActions({preferences, quitEntry});
+    }
+    mainDialog->setContextMenuPolicy(Qt::CustomContextMenu);
+    connect(mainDialog, SIGNAL(customContextMenuRequested(QPoint)), this, SLOT(OnContextMenu(QPoint)));
+    auto *menuKey = new QShortcut(Qt::SHIFT | Qt::Key_F10, mainDialog);
+    connect(menuKey, SIGNAL(activated()), this, SLOT(OnContextMenu()));
 
     // A session may start Kelvo before its panel, or have none. The icon waits for a tray. Without one, the
     // window is the only way to use Kelvo, so it is shown whatever HideAtStartUp says.
     auto *trayHost = new TrayHost(this);
     connect(trayHost, SIGNAL(Clicked()), this, SLOT(OnShowMainDialog()));
-    connect(trayHost, SIGNAL(Absent()), this, SLOT(OnShowMainDialog()));
-    trayHost->WhenAvailable([this, menu, trayHost] {
-        ShowTrayIcon(menu);
+    connect(trayHost, SIGNAL(Absent()), this, SLOT(OnTrayAbsent()));
+    trayHost->WhenAvailable([this, trayHost] {
+        ShowTrayIcon();
         trayHost->Attach(trayIcon);
     });
 
@@ -60,13 +77,23 @@ void MyApp::InitializeTrayIcon()
     }
 }
 
-void MyApp::ShowTrayIcon(QMenu *menu)
+void MyApp::OnTrayAbsent()
+{
+    mainDialog->setVisible(true); // not asked for, so neither raised nor activated
+}
+
+void MyApp::OnContextMenu(const QPoint &position)
+{
+    statusMenu->popup(mainDialog->mapToGlobal(position.isNull() ? mainDialog->rect().center() : position));
+}
+
+void MyApp::ShowTrayIcon()
 {
     trayIcon = new QSystemTrayIcon(this);
     SetPlainIcon();
     trayIcon->setVisible(true);
     trayIcon->setToolTip(applicationName());
-    trayIcon->setContextMenu(menu);
+    trayIcon->setContextMenu(statusMenu);
     // Deliberately set again: the panel shows this name, whatever the application is called.
     trayIcon->setToolTip(QStringLiteral("Kelvo"));
 }
@@ -78,6 +105,11 @@ void MyApp::SetPlainIcon()
     }
     QIcon icon(QStringLiteral(":/app16.png"));
     icon.addFile(QStringLiteral(":/app16_invert.png"), QSize(), QIcon::Selected, QIcon::Off);
+    // By its name, a panel shows the symbolic icon sharp and in its own colour. Not for the first moments
+    // before the pie: looking the name up is slow.
+    if (!settings[QStringLiteral("PieChartIcon")].toBool() && TrayHost::TakesIconNames()) {
+        icon = QIcon::fromTheme(QStringLiteral("kelvo-symbolic"), icon);
+    }
     trayIcon->setIcon(icon);
     pieShown.reset();
 }

@@ -9,6 +9,10 @@ DialogPreferences::DialogPreferences(QWidget *parent)
     : QFrame(parent), ui(new Ui_DialogPreferences), placement(new WindowPlacement(this))
 {
     ui->setupUi(this);
+    if (!WindowPlacement::CanPlace()) {
+        ui->checkBoxStayOnTop->setEnabled(false);
+        ui->checkBoxStayOnTop->setToolTip(tr("On Wayland, a program cannot keep its window on top."));
+    }
 
     // Deliberately both radio buttons: a change of style is announced twice, and the receiver rereads
     // everything each time.

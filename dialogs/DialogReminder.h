@@ -17,6 +17,9 @@ public:
     /// Sets the question, as plain or rich text.
     void SetMessage(const QString &message);
 
+protected:
+    void showEvent(QShowEvent *event) override;
+
 signals:
     void Accepted();    ///< "Yes", after the dialog has been hidden.
     void DoNotRemind(); ///< "Do Not Remind Me", after the dialog has been hidden.

@@ -20,7 +20,7 @@ int Span(qlonglong value, double whole)
 
 bool PieSlices::LooksLike(const PieSlices &other) const
 {
-    const auto near = [](int a, int b) { return std::abs(a - b) <= FullCircle / 1000; };
+    const auto near = [](int a, int b) { return 150 * std::abs(a - b) < FullCircle; };
     return near(InactiveStart(), other.InactiveStart()) && near(ActiveStart(), other.ActiveStart()) &&
            near(WiredStart(), other.WiredStart());
 }

@@ -22,8 +22,8 @@ struct PieSlices
     /// Negative for figures that contradict each other.
     int WiredSpan() const { return TwelveOClock + FullCircle - WiredStart(); }
 
-    /// Whether icons of the two look the same: no border is off by more than a thousandth of the circle, a
-    /// fifth of a pixel at the icon's full size.
+    /// Whether icons of the two look the same: no border is off by 1/150 of the circle, half a pixel at a
+    /// size of 22.
     bool LooksLike(const PieSlices &other) const;
 
     bool operator==(const PieSlices &) const = default;

@@ -44,6 +44,7 @@ void MainDialog::RemindFeedback()
     box.setWindowTitle(QStringLiteral("Feedback"));
     // Otherwise it would open behind a main window that is kept on top, and block it unseen.
     box.setWindowFlag(Qt::WindowStaysOnTopHint);
+    box.setAttribute(Qt::WA_ShowWithoutActivating); // the user is busy with something else
     if (box.exec() == QMessageBox::Ok) {
         QDesktopServices::openUrl(DialogAbout::ReviewPage());
     }

@@ -62,7 +62,7 @@ void MainDialog::mouseReleaseEvent(QMouseEvent *event)
     // Deliberate: a drag that ends over the mark hides the window too.
     if (windowFlags().testFlag(Qt::FramelessWindowHint) && event->button() == Qt::LeftButton &&
         rectClose.contains(event->position())) {
-        hide();
+        close();
         event->accept();
     }
 }
@@ -70,7 +70,7 @@ void MainDialog::mouseReleaseEvent(QMouseEvent *event)
 void MainDialog::keyPressEvent(QKeyEvent *event)
 {
     if (event->key() == Qt::Key_Escape && windowFlags().testFlag(Qt::FramelessWindowHint)) {
-        hide();
+        close();
     } else {
         QFrame::keyPressEvent(event);
     }

@@ -15,9 +15,11 @@
 #include <sys/file.h>
 #include <unistd.h>
 
-// A message is a QByteArray as QDataStream writes it: its size and the text in UTF-8. One byte comes back.
+// A message is two QByteArrays as QDataStream writes them, each a size and the bytes: the text in UTF-8 and
+// the activation token. One byte comes back.
 static constexpr char acknowledgement = '+';
 static constexpr qsizetype maxMessageBytes = 1 << 20;
+static constexpr qsizetype maxTokenBytes = 4096;
 static constexpr int msClient = 5000;
 static constexpr int msRetry = 10;
 
@@ -77,23 +79,24 @@ void InstanceChannel::OnConnection()
 void InstanceChannel::OnReadyRead()
 {
     auto *client = qobject_cast<QLocalSocket *>(sender());
-    if (client->bytesAvailable() > maxMessageBytes + qsizetype{sizeof(quint32)}) {
+    if (client->bytesAvailable() > maxMessageBytes + maxTokenBytes) {
         client->abort();
         return;
     }
     QByteArray text;
+    QByteArray activationToken;
     QDataStream in(client);
     in.startTransaction();
-    in >> text;
+    in >> text >> activationToken;
     if (!in.commitTransaction()) {
         return; // not all of it is here yet
     }
     client->write(&acknowledgement, 1);
     client->disconnectFromServer();
-    emit MessageReceived(QString::fromUtf8(text));
+    emit MessageReceived(QString::fromUtf8(text), activationToken);
 }
 
-bool InstanceChannel::Send(const QString &message, int msTimeout)
+bool InstanceChannel::Send(const QString &message, const QByteArray &activationToken, int msTimeout)
 {
     const QByteArray text = message.toUtf8();
     if (text.size() > maxMessageBytes || !IsRunning()) {
@@ -101,7 +104,7 @@ bool InstanceChannel::Send(const QString &message, int msTimeout)
     }
     QByteArray frame;
     QDataStream out(&frame, QIODevice::WriteOnly);
-    out << text;
+    out << text << activationToken.left(maxTokenBytes / 2);
     // The running copy may hold the lock and not listen yet, have a full backlog, or end just now.
     const QDeadlineTimer deadline(qMax(0, msTimeout));
     while (!Deliver(frame, deadline)) {

@@ -1,9 +1,9 @@
 #pragma once
 
+#include <QByteArray>
 #include <QObject>
 #include <QString>
 
-class QByteArray;
 class QDeadlineTimer;
 class QLocalServer;
 
@@ -25,14 +25,15 @@ public:
     /// can be made (a full or read-only directory): running twice harms less than not at all.
     bool IsRunning();
 
-    /// Delivers a message of up to 1 MiB of UTF-8 to the running copy.
+    /// Delivers a message of up to 1 MiB of UTF-8 to the running copy, with the token by which the desktop
+    /// lets it come to the front.
     /// @return true once it has the whole message; false after the time-out, and at once if the message is
     /// too
     ///         long or this copy is the running one
-    bool Send(const QString &message, int msTimeout);
+    bool Send(const QString &message, const QByteArray &activationToken, int msTimeout);
 
 signals:
-    void MessageReceived(const QString &message);
+    void MessageReceived(const QString &message, const QByteArray &activationToken);
 
 private slots:
     void OnConnection();

@@ -1,6 +1,11 @@
 #include "platform/QtSingleApplication.h"
 
 #include "platform/InstanceChannel.h"
+#include "platform/LaunchFeedback.h"
+
+// Of this launch, from the desktop. Read before Qt's platform plug-ins do, which remove them.
+static const QByteArray activationToken = qgetenv("XDG_ACTIVATION_TOKEN");
+static const QByteArray startupId = qgetenv("DESKTOP_STARTUP_ID");
 
 QtSingleApplication::QtSingleApplication(int &argc, char **argv, bool guiEnabled) : QApplication(argc, argv)
 {
@@ -16,7 +21,10 @@ bool QtSingleApplication::isRunning()
 
 bool QtSingleApplication::sendMessage(const QString &message, int timeout)
 {
-    return Channel().Send(message, timeout);
+    const bool bSent =
+        Channel().Send(message, activationToken.isEmpty() ? startupId : activationToken, timeout);
+    EndLaunchFeedback(startupId);
+    return bSent;
 }
 
 InstanceChannel &QtSingleApplication::Channel()
@@ -24,7 +32,18 @@ InstanceChannel &QtSingleApplication::Channel()
     if (!channel) {
         channel =
             std::make_unique<InstanceChannel>(organizationName() + QLatin1Char('-') + applicationName());
-        connect(channel.get(), SIGNAL(MessageReceived(QString)), this, SIGNAL(messageReceived(QString)));
+        connect(channel.get(), SIGNAL(MessageReceived(QString, QByteArray)), this,
+                SLOT(OnChannelMessage(QString, QByteArray)));
     }
     return *channel;
+}
+
+void QtSingleApplication::OnChannelMessage(const QString &message, const QByteArray &token)
+{
+    // Where the Wayland plug-in looks for it when a window is activated.
+    if (!token.isEmpty()) {
+        qputenv("XDG_ACTIVATION_TOKEN", token);
+    }
+    emit messageReceived(message);
+    qunsetenv("XDG_ACTIVATION_TOKEN");
 }

@@ -27,6 +27,9 @@ public:
 signals:
     void messageReceived(const QString &message);
 
+private slots:
+    void OnChannelMessage(const QString &message, const QByteArray &token);
+
 private:
     InstanceChannel &Channel();
 

@@ -22,6 +22,12 @@ public:
     /// appears, however late. To be called once.
     void WhenAvailable(std::function<void()> ready);
 
+    /// Whether there is a tray now, or this platform knows no trays. May take 100 ms.
+    static bool IsAvailable();
+
+    /// Whether the tray shows icons of the theme by their names. May take 100 ms.
+    static bool TakesIconNames();
+
     /// Linux: a left click or double click on the icon becomes Clicked(). macOS: nothing, a click opens the
     /// menu.
     void Attach(QSystemTrayIcon *icon);

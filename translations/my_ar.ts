@@ -94,6 +94,10 @@
         <source>GB</source>
         <translation>غ.ب</translation>
     </message>
+    <message>
+        <source>On Wayland, a program cannot keep its window on top.</source>
+        <translation>في Wayland، لا يستطيع البرنامج إبقاء نافذته في المقدمة.</translation>
+    </message>
 </context>
 <context>
     <name>DialogReminder</name>

@@ -94,6 +94,10 @@
         <source>GB</source>
         <translation>GB</translation>
     </message>
+    <message>
+        <source>On Wayland, a program cannot keep its window on top.</source>
+        <translation>Unter Wayland kann ein Programm sein Fenster nicht im Vordergrund halten.</translation>
+    </message>
 </context>
 <context>
     <name>DialogReminder</name>

@@ -94,6 +94,10 @@
         <source>GB</source>
         <translation>GB</translation>
     </message>
+    <message>
+        <source>On Wayland, a program cannot keep its window on top.</source>
+        <translation>En Wayland, un programa no puede mantener su ventana por encima de las demás.</translation>
+    </message>
 </context>
 <context>
     <name>DialogReminder</name>

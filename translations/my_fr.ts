@@ -94,6 +94,10 @@
         <source>GB</source>
         <translation>Go</translation>
     </message>
+    <message>
+        <source>On Wayland, a program cannot keep its window on top.</source>
+        <translation>Sous Wayland, un programme ne peut pas garder sa fenêtre au premier plan.</translation>
+    </message>
 </context>
 <context>
     <name>DialogReminder</name>

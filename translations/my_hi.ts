@@ -94,6 +94,10 @@
         <source>GB</source>
         <translation>GB से अधिक होने पर</translation>
     </message>
+    <message>
+        <source>On Wayland, a program cannot keep its window on top.</source>
+        <translation>Wayland पर कोई प्रोग्राम अपनी विंडो को सबसे ऊपर नहीं रख सकता।</translation>
+    </message>
 </context>
 <context>
     <name>DialogReminder</name>

@@ -94,6 +94,10 @@
         <source>GB</source>
         <translation>GB</translation>
     </message>
+    <message>
+        <source>On Wayland, a program cannot keep its window on top.</source>
+        <translation>In Wayland un programma non può tenere la propria finestra in primo piano.</translation>
+    </message>
 </context>
 <context>
     <name>DialogReminder</name>

@@ -94,6 +94,10 @@
         <source>GB</source>
         <translation>GB を超えたとき</translation>
     </message>
+    <message>
+        <source>On Wayland, a program cannot keep its window on top.</source>
+        <translation>Wayland では、プログラムは自分のウィンドウを最前面に保てません。</translation>
+    </message>
 </context>
 <context>
     <name>DialogReminder</name>

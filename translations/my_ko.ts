@@ -94,6 +94,10 @@
         <source>GB</source>
         <translation>GB를 넘을 때</translation>
     </message>
+    <message>
+        <source>On Wayland, a program cannot keep its window on top.</source>
+        <translation>Wayland에서는 프로그램이 자신의 창을 항상 위에 둘 수 없습니다.</translation>
+    </message>
 </context>
 <context>
     <name>DialogReminder</name>

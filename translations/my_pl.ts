@@ -94,6 +94,10 @@
         <source>GB</source>
         <translation>GB</translation>
     </message>
+    <message>
+        <source>On Wayland, a program cannot keep its window on top.</source>
+        <translation>W środowisku Wayland program nie może utrzymać swojego okna na wierzchu.</translation>
+    </message>
 </context>
 <context>
     <name>DialogReminder</name>

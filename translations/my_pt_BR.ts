@@ -94,6 +94,10 @@
         <source>GB</source>
         <translation>GB</translation>
     </message>
+    <message>
+        <source>On Wayland, a program cannot keep its window on top.</source>
+        <translation>No Wayland, um programa não pode manter sua janela acima das outras.</translation>
+    </message>
 </context>
 <context>
     <name>DialogReminder</name>

@@ -94,6 +94,10 @@
         <source>GB</source>
         <translation>ГБ</translation>
     </message>
+    <message>
+        <source>On Wayland, a program cannot keep its window on top.</source>
+        <translation>В Wayland программа не может удерживать своё окно поверх остальных.</translation>
+    </message>
 </context>
 <context>
     <name>DialogReminder</name>

@@ -94,6 +94,10 @@
         <source>GB</source>
         <translation>GB’ı aşınca</translation>
     </message>
+    <message>
+        <source>On Wayland, a program cannot keep its window on top.</source>
+        <translation>Wayland’da bir program penceresini üstte tutamaz.</translation>
+    </message>
 </context>
 <context>
     <name>DialogReminder</name>

@@ -94,6 +94,10 @@
         <source>GB</source>
         <translation>ГБ</translation>
     </message>
+    <message>
+        <source>On Wayland, a program cannot keep its window on top.</source>
+        <translation>У Wayland програма не може утримувати своє вікно поверх інших.</translation>
+    </message>
 </context>
 <context>
     <name>DialogReminder</name>

@@ -94,6 +94,10 @@
         <source>GB</source>
         <translation>GB</translation>
     </message>
+    <message>
+        <source>On Wayland, a program cannot keep its window on top.</source>
+        <translation>在 Wayland 上，程序无法将自己的窗口保持在最前面。</translation>
+    </message>
 </context>
 <context>
     <name>DialogReminder</name>

@@ -94,6 +94,10 @@
         <source>GB</source>
         <translation>GB</translation>
     </message>
+    <message>
+        <source>On Wayland, a program cannot keep its window on top.</source>
+        <translation>在 Wayland 上，程式無法將自己的視窗保持在最上層。</translation>
+    </message>
 </context>
 <context>
     <name>DialogReminder</name>

@@ -1,5 +1,7 @@
 #include "platform/TrayHost.h"
 
+#include "platform/linux/Xcb.h"
+
 #include <QAbstractNativeEventFilter>
 #include <QDBusConnection>
 #include <QDBusMessage>
@@ -14,28 +16,9 @@
 #include <memory>
 #include <utility>
 
-#include <xcb/xcb.h>
-
 static const QString watcherService = QStringLiteral("org.kde.StatusNotifierWatcher");
 static constexpr int msHostQuestion = 100;
 static constexpr int msUntilAbsent = 3000;
-
-using XcbReply = std::unique_ptr<void, decltype(&std::free)>;
-
-static xcb_connection_t *XcbConnection()
-{
-    const auto *x11 = qGuiApp->nativeInterface<QNativeInterface::QX11Application>();
-    return x11 ? x11->connection() : nullptr;
-}
-
-static xcb_atom_t XcbAtom(const QByteArray &name)
-{
-    xcb_connection_t *connection = XcbConnection();
-    const auto cookie = xcb_intern_atom(connection, 0, static_cast<uint16_t>(name.size()), name.constData());
-    auto *reply = xcb_intern_atom_reply(connection, cookie, nullptr);
-    const XcbReply owner(reply, std::free);
-    return reply ? reply->atom : static_cast<xcb_atom_t>(XCB_ATOM_NONE);
-}
 
 /// An XEmbed tray owns the selection named after its screen.
 static bool HasXEmbedTray()
@@ -50,9 +33,9 @@ static bool HasXEmbedTray()
     xcb_parse_display(nullptr, &host, &display, &screen);
     std::free(host);
     const xcb_atom_t selection = XcbAtom("_NET_SYSTEM_TRAY_S" + QByteArray::number(screen));
-    auto *reply =
-        xcb_get_selection_owner_reply(connection, xcb_get_selection_owner(connection, selection), nullptr);
-    const XcbReply owner(reply, std::free);
+    const std::unique_ptr<xcb_get_selection_owner_reply_t, decltype(&std::free)> reply(
+        xcb_get_selection_owner_reply(connection, xcb_get_selection_owner(connection, selection), nullptr),
+        std::free);
     return reply && reply->owner != XCB_WINDOW_NONE;
 }
 
@@ -136,14 +119,23 @@ private:
 
 TrayHost::TrayHost(QObject *parent) : QObject(parent) {}
 
-void TrayHost::WhenAvailable(std::function<void()> ready)
+bool TrayHost::TakesIconNames()
+{
+    return IsYes(QDBusConnection::sessionBus().call(HostQuestion(), QDBus::Block, msHostQuestion));
+}
+
+bool TrayHost::IsAvailable()
 {
     const QString platform = QGuiApplication::platformName();
     const bool bKnowsTrays =
         platform == QLatin1String("xcb") || platform.startsWith(QLatin1String("wayland"));
     // The cheaper question first. Where both kinds are there, Qt chooses StatusNotifierItem by itself.
-    if (!bKnowsTrays || HasXEmbedTray() ||
-        IsYes(QDBusConnection::sessionBus().call(HostQuestion(), QDBus::Block, msHostQuestion))) {
+    return !bKnowsTrays || HasXEmbedTray() || TakesIconNames();
+}
+
+void TrayHost::WhenAvailable(std::function<void()> ready)
+{
+    if (IsAvailable()) {
         ready();
         return;
     }

@@ -7,4 +7,14 @@ void TrayHost::WhenAvailable(std::function<void()> ready)
     ready();
 }
 
+bool TrayHost::IsAvailable()
+{
+    return true;
+}
+
+bool TrayHost::TakesIconNames()
+{
+    return false;
+}
+
 void TrayHost::Attach(QSystemTrayIcon *) {}

@@ -1,0 +1,4 @@
+#include "platform/LaunchFeedback.h"
+
+// The system itself brings a running application to the front instead of launching it again.
+void EndLaunchFeedback(const QByteArray &) {}
