@@ -10,6 +10,7 @@
 #include <QAction>
 #include <QEvent>
 #include <QIcon>
+#include <QPixmapCache>
 
 #include <cstdlib>
 #include <utility>
@@ -17,6 +18,8 @@
 MyApp::MyApp(int &argc, char **argv) : QtSingleApplication(argc, argv, true)
 {
     setQuitOnLastWindowClosed(false);
+    // Qt would keep every icon that is scaled for a tray, up to 10 MiB, and some 300 bytes of each for ever.
+    QPixmapCache::setCacheLimit(0);
     setOrganizationName(QStringLiteral("Orvanta"));
     setOrganizationDomain(QStringLiteral("orvanta.example"));
     setApplicationName(QStringLiteral("Kelvo"));

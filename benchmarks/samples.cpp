@@ -11,15 +11,14 @@
 #include <QElapsedTimer>
 #include <QEventLoop>
 #include <QFile>
-#include <QPixmapCache>
 #include <QSystemTrayIcon>
 #include <QTimer>
 
 #include <algorithm>
 #include <cstdio>
 #include <cstdlib>
-#include <malloc.h>
 #include <sys/mman.h>
+#include <unistd.h>
 #include <utility>
 #include <vector>
 
@@ -38,21 +37,19 @@ struct State
     uint descriptors;
 };
 
-/// Once everything that is on its way to the tray has left, and without what goes by itself in half a minute.
+/// Once everything that is on its way to the tray has left.
 State RestingState()
 {
     Rest(1000);
-    QPixmapCache::clear();
-    malloc_trim(0);
     QFile memory(QStringLiteral("/proc/self/smaps_rollup"));
     const QByteArray text = memory.open(QIODevice::ReadOnly) ? memory.readAll() : QByteArray();
     return {FindField(text.constData(), "Anonymous").value_or(0), QDir(QStringLiteral("/proc/self/fd")).count()};
 }
 
-/// Takes a block of memory, or gives it back, so that the figures change as they do on a machine in use.
+/// Takes a hundredth of the memory, or gives it back: enough for another icon.
 void MoveFigures()
 {
-    constexpr size_t size = 64 << 20;
+    static const auto size = static_cast<size_t>(sysconf(_SC_PHYS_PAGES) * sysconf(_SC_PAGESIZE) / 100);
     static void *block = MAP_FAILED;
     if (block == MAP_FAILED) {
         block = mmap(nullptr, size, PROT_READ | PROT_WRITE, MAP_PRIVATE | MAP_ANONYMOUS | MAP_POPULATE, -1, 0);

@@ -90,22 +90,6 @@ private slots:
         }
     }
 
-    /// Whoever has a window open is looking.
-    void noReminderOverAnOpenWindow()
-    {
-        RunningApp::Store().setValue("Application/Settings", QVariantMap{{"Remind", true}});
-        const RunningApp running;
-        running.report.Set(1, 300000, 1, 1);
-        QWidget *const main = RunningApp::Find<MainDialog>();
-        QWidget *const panel = RunningApp::Find<DialogPreferences>();
-        for (QWidget *open : {main, panel, static_cast<QWidget *>(nullptr)}) {
-            main->setVisible(open == main);
-            panel->setVisible(open == panel);
-            RunningApp::Find<MainDialog>()->UpdateStats();
-            QCOMPARE(RunningApp::Find<DialogReminder>()->isVisible(), !open);
-        }
-    }
-
 private:
     static void Click(const char *name)
     {

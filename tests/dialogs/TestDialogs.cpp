@@ -25,12 +25,10 @@ private slots:
             empty[box] = false;
         }
         const std::tuple<const char *, QVariant, QVariant> cases[] = {
-            {"StayOnTop", {}, false},        {"PieChartIcon", true, true},
-            {"Remind", true, true},          {"AutoLaunch", "true", true},
-            {"WindowStyle", "dark", 0},      {"NoTitleBar", QVariantList{1}, false},
-            {"WindowStyle", 2, 1},           {"UpdateFrequency", -1, 1},
-            {"RemindThreshold", 150, 99.99}, {"RemindThreshold", 1.234, 1.23},
-            {"RemindThreshold", "-3", 0.0}};
+            {"PieChartIcon", true, true},      {"Remind", true, true},
+            {"AutoLaunch", "true", true},      {"WindowStyle", 2, 1},
+            {"UpdateFrequency", -1, 1},        {"RemindThreshold", 150, 99.99},
+            {"RemindThreshold", "1.234", 1.23}};
         DialogPreferences panel(nullptr);
         auto *mono = panel.findChild<QCheckBox *>("checkBoxMonoColor");
         const QSignalSpy changed(&panel, SIGNAL(SettingChanged()));

@@ -70,6 +70,20 @@ class Freeing(DesktopTest):
         self.answer("Do Not Remind Me")
         self.assertEqual(self.stop()["Application/Settings"]["Remind"], False)
 
+    def test_reminder_and_the_keyboard(self):
+        """It takes no keys from another window. If it has the focus all the same, it waits for a click or a Tab."""
+        self.desktop.spawn("xev", "-event", "keyboard", log="xev.log")
+        self.start_with("", REMIND)
+        self.remind(3 * 262144, "3.00 GB")
+        self.desktop.run("xdotool", "type", "we \n")
+        self.assertBecomes(lambda: (self.desktop.home / "xev.log").read_text().count("KeyPress"), 4)
+        keys = "xdotool", "windowactivate", "--sync", self.kelvo.window(), "key"
+        self.desktop.run(*keys, "space", "Return", "KP_Enter", "sleep", 0.5)
+        self.assertTrue(self.kelvo.window(0), "answered")
+        self.desktop.run(*keys, "Tab", "Tab", "space")
+        self.assertTrue(self.kelvo.window_goes(), "No is not reached")
+        self.assertEqual(self.kelvo.children(), [])
+
     def test_reminder_yes(self):
         self.start_with("while [ ! -e $0.done ]; do sleep 0.1; done; echo freed", REMIND)
         self.remind(3 * 262144, "3.00 GB")

@@ -66,15 +66,6 @@ private slots:
         QCOMPARE(spans(1, 0, 1LL << 50, -(1LL << 50)), QList({5760, 1 << 28, -(1 << 28), 0}));
     }
 
-    void lookAlikes()
-    {
-        const PieSlices pie{1000, 1000, 1000};
-        QVERIFY(pie.LooksLike({1005, 1000, 995}) && pie.LooksLike({995, 1010, 990}));
-        for (const PieSlices &other : {PieSlices{1006, 994, 1000}, {1000, 994, 1006}, {1002, 1002, 1002}}) {
-            QVERIFY(!pie.LooksLike(other));
-        }
-    }
-
     void windowPie()
     {
         const PieSlices quarters{1440, 1440, 1440}; // counter-clockwise from twelve o'clock
@@ -85,10 +76,8 @@ private slots:
         QCOMPARE(pie.pixelColor(20, 52), QColor(Qt::blue));
         QCOMPARE(pie.pixelColor(52, 52), QColor(Qt::yellow));
         QCOMPARE(pie.pixelColor(52, 20), QColor(Qt::red));
-        // Three discs of alpha 15 over one another, one at the very edge.
-        QVERIFY(qAbs(rim.pixelColor(36, 36).alpha() - 43) <= 2 &&
-                qAbs(rim.pixelColor(36, 0).alpha() - 15) <= 5);
-        QVERIFY(pie.pixelColor(0, 0).alpha() == 0 && pie.pixelColor(36, 1).alpha() < 60);
+        QCOMPARE(pie.pixelColor(0, 0).alpha(), 0);
+        QVERIFY(qAbs(rim.pixelColor(36, 36).alpha() - 43) <= 2); // three discs of alpha 15 over one another
     }
 };
 

@@ -55,8 +55,8 @@ private slots:
     {
         QTest::addColumn<QStringList>("heard");
         for (const char *good :
-             {"echo done; exit 1", "sleep 0.2", "head -c 1048576 /dev/zero", "head -c 4194304 /dev/zero >&2",
-              "exec >&-; sleep 0.2; touch last", "sleep 3 &", "echo done; kill -SEGV $$"}) {
+             {"echo done; exit 1", "head -c 4194304 /dev/zero >&2", "exec >&-; sleep 0.2; touch last",
+              "sleep 3 &", "echo done; kill -SEGV $$"}) {
             QTest::newRow(good) << QStringList("finished");
         }
         QTest::newRow("kill -SEGV $$") << QStringList({"Failed", "finished"});
@@ -97,28 +97,6 @@ private slots:
         QCOMPARE(listener.heard, QStringList({"finished", "finished"}));
     }
 
-    void failingCostsNothing()
-    {
-        Listener listener;
-        QFile::remove(memfree.path);
-        qsizetype descriptors = 0;
-        const auto fail = [&] {
-            for (int i = 0; i < 10; ++i) {
-                listener.heard.clear();
-                listener.worker->Start(0, 0);
-                QTRY_COMPARE(listener.heard, QStringList({"Failed", "finished"}));
-                descriptors = descriptors ? descriptors : CountOwn("fd");
-            }
-        };
-        fail();
-        memfree.Write("echo never", false);
-        fail();
-        QVERIFY(QFile::remove(memfree.path) && QDir().mkdir(memfree.path));
-        fail();
-        QVERIFY(QDir().rmdir(memfree.path));
-        QCOMPARE(CountOwn("fd"), descriptors);
-    }
-
     void abortKillsTheGroup()
     {
         Install("trap '' TERM INT HUP; sleep 60 & echo $! >child; exec yes >&2");
@@ -132,23 +110,6 @@ private slots:
         listener.worker->Abort();
         QTRY_COMPARE(listener.heard, QStringList({"terminated", "finished"}));
         QTRY_VERIFY(!IsRunning("pid") && !IsRunning("child"));
-    }
-
-    void deletedDuringRun()
-    {
-        Install("exec sleep 60");
-        for (int i = 0; i < 40; ++i) {
-            Listener listener;
-            listener.worker->Start(0, 0);
-            QTRY_VERIFY(i % 2 == 0 || IsRunning("pid"));
-            if (i % 4 >= 2) {
-                listener.worker->Abort();
-            }
-            const QDeadlineTimer deadline(1000);
-            delete listener.worker;
-            QVERIFY(!deadline.hasExpired() && !HaveChild() && !listener.heard.contains("Failed"));
-            QFile::remove(directory->filePath("pid"));
-        }
     }
 
     void abortAtRandom_data()

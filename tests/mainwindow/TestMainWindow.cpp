@@ -120,18 +120,6 @@ private slots:
         QVERIFY(RunningApp::Store().value("MainWindow/Warning").toBool());
     }
 
-    void quitDuringTheWarningFreesNothing()
-    {
-        RunningApp::Store().clear();
-        RunningApp running;
-        const BundledFake memfree("memfree", "touch $0.ran");
-        QTimer::singleShot(0, &running.app, SLOT(OnFreeMemory()));
-        QTimer::singleShot(300, &running.app, SLOT(quit()));
-        QCOMPARE(QApplication::exec(), 0);
-        QTest::qSleep(200);
-        QVERIFY(!QFile::remove(memfree.path + ".ran"));
-    }
-
 private:
     static QString Text(const char *label) { return RunningApp::Find<QLabel>(label)->text(); }
     static QPushButton *Button() { return RunningApp::Find<QPushButton>("pushButtonGo"); }

@@ -63,15 +63,12 @@ private slots:
             "Active(anon): 400\nInactive(anon): 80\nActive(file): 200\nInactive(file): 120\n";
         const std::pair<QByteArray, QList<quint64>> cases[] = {
             {lists + "MemFree:1000\nMemTotal:4000", {250, 170, 30, 0, 550}},
-            {total + "MemTotal: 8 kB\nMemFree: 400 kB\nMemFree: 4 kB\n", {100, 0, 0, 0, 900}},
             {total + "MemFree: 4 kB\nInactive: 20 kB\nInactive(anon): 80 kB\n", {1, 20, 0, 0, 979}},
-            {total + "MemFree: 404 kB\n" + QByteArray(10'000'000, 'x'), {101, 0, 0, 0, 899}},
             {total + "MemFree: 3600 kB\n" + lists, {900, 70, 30, 0, 0}},
             {total + "MemFree: 5000 kB\nActive: 18446744073709551615 kB\n", {1000, 0, 0, 0, 0}},
             {total + "MemFree: 8 kB\nActive: -8 kB\nInactive: 123456789012345678901\n:\n", {2, 0, 0, 0, 998}},
             {"MemTotal: -4000 kB\nMemFree: 4 kB\n", {}},
             {total, {}},
-            {"MemTotal: 0 kB\nMemFree: 0 kB\n", {}},
             {"MemTotal: 18446744073709551615 kB\nMemFree: 0 kB\n", {}}};
         for (const auto &[meminfo, counts] : cases) {
             QCOMPARE(Counts(VmStatReport(meminfo.constData())), counts);
@@ -83,9 +80,7 @@ private slots:
         const BundledFake program("vm_stat");
         const std::pair<const char *, QString> cases[] = {
             {"cat; printf ' a\\351\\n\\nb\\n'", " a\u00e9\r\rb\r"}, // empty standard input, Latin-1
-            {"echo a; sleep 0.1; echo b >&2; echo c", "a\rc\r"},
             {"echo a; exit 1", {}},
-            {"echo a; kill -9 $$", {}},
             {"exec yes", {}}};
         const QDeadlineTimer deadline(5000);
         for (const auto &[body, report] : cases) {

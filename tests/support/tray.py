@@ -64,7 +64,7 @@ class TrayItem:
     def __init__(self, bus, name):
         self.bus, self.name = bus, name
         self.signals = []
-        bus.connection.signal_subscribe(name, self.INTERFACE, None, None, None, Gio.DBusSignalFlags.NONE,
+        bus.connection.signal_subscribe(name, None, None, None, None, Gio.DBusSignalFlags.NONE,
                                         lambda *signal_seen: self.signals.append(signal_seen[4]))
 
     def get(self, prop):
@@ -86,7 +86,8 @@ class TrayItem:
         return self.bus.call(self.name, self.get("Menu"), "com.canonical.dbusmenu", method, signature, *arguments)
 
     def menu(self):
-        """The entries as (id, text) in their order; a separator's text is "-"."""
+        """The entries as (id, text) in their order, as a panel opens the menu; a separator's text is "-"."""
+        self._menu("AboutToShow", "(i)", 0)
         _, (_, _, children) = self._menu("GetLayout", "(iias)", 0, -1, [])
         return [(entry, "-" if values.get("type") == "separator" else values["label"].replace("_", ""))
                 for entry, values, _ in children]
