@@ -48,30 +48,6 @@ private slots:
         mono->setChecked(true);
         QVERIFY(mono->isHidden() && panel.GetSettings()["MonoColor"].toBool());
     }
-
-    /// One reminder serves the whole run, hides before it answers, and grows with its message.
-    void reminder()
-    {
-        DialogReminder dialog(nullptr);
-        QStringList heard;
-        const auto hear = [&](const char *what) { heard << (dialog.isVisible() ? "too early" : what); };
-        connect(&dialog, &DialogReminder::Accepted, this, [&] { hear("yes"); });
-        connect(&dialog, &DialogReminder::DoNotRemind, this, [&] { hear("never"); });
-        connect(&dialog, &DialogReminder::rejected, this, [&] { hear("no"); });
-        for (int i = 0; i < 2; ++i) {
-            for (const char *button : {"pushButtonYes", "pushButtonNoRemind"}) {
-                dialog.show();
-                dialog.findChild<QAbstractButton *>(button)->click();
-            }
-            dialog.show();
-            QTest::keyClick(&dialog, Qt::Key_Escape);
-        }
-        QCOMPARE(heard.join(' '), "yes never no yes never no");
-        const int height = dialog.sizeHint().height();
-        dialog.show();
-        dialog.SetMessage(QString("a long message ").repeated(30));
-        QTRY_VERIFY(dialog.height() > height);
-    }
 };
 
 QTEST_MAIN(TestDialogs)

@@ -97,21 +97,6 @@ private slots:
         QCOMPARE(listener.heard, QStringList({"finished", "finished"}));
     }
 
-    void abortKillsTheGroup()
-    {
-        Install("trap '' TERM INT HUP; sleep 60 & echo $! >child; exec yes >&2");
-        Listener listener;
-        listener.worker->Abort(); // idle: nothing
-        listener.worker->Start(0, 0);
-        QTRY_VERIFY(IsRunning("pid") && IsRunning("child"));
-        listener.worker->Start(1, 0); // not begun beside the first
-        QCOMPARE(Noted("arguments"), "104857600");
-        listener.worker->Abort();
-        listener.worker->Abort();
-        QTRY_COMPARE(listener.heard, QStringList({"terminated", "finished"}));
-        QTRY_VERIFY(!IsRunning("pid") && !IsRunning("child"));
-    }
-
     void abortAtRandom_data()
     {
         QTest::addColumn<QStringList>("whole"); // what is heard of a run that ended before the abort

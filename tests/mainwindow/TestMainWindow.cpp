@@ -98,28 +98,6 @@ private slots:
         QTRY_COMPARE(Text("labelReturned"), "0 bytes");
     }
 
-    void warningComesOnce()
-    {
-        RunningApp::Store().clear();
-        {
-            RunningApp running;
-            const BundledFake memfree("memfree", "sleep 0.3");
-            QTimer::singleShot(200, [&] {
-                running.app.OnFreeMemory(); // again, with the warning open
-                RunningApp::Find<QCheckBox>("checkBoxDoNotShow")->setChecked(true);
-                RunningApp::Find<DialogWarning>()->reject();
-            });
-            Button()->click();
-            Button()->click(); // a double click
-            QTRY_VERIFY(!Button()->isEnabled());
-            QTRY_VERIFY(Button()->isEnabled());
-            running.app.OnFreeMemory();
-            QVERIFY(!Button()->isEnabled()); // no warning any more
-            QTRY_COMPARE(RunningApp::Store().value("Application/ExecCount"), 2);
-        }
-        QVERIFY(RunningApp::Store().value("MainWindow/Warning").toBool());
-    }
-
 private:
     static QString Text(const char *label) { return RunningApp::Find<QLabel>(label)->text(); }
     static QPushButton *Button() { return RunningApp::Find<QPushButton>("pushButtonGo"); }
