@@ -24,6 +24,7 @@ MyApp::MyApp(int &argc, char **argv) : QtSingleApplication(argc, argv, true)
     setOrganizationDomain(QStringLiteral("orvanta.example"));
     setApplicationName(QStringLiteral("Kelvo"));
     setDesktopFileName(QStringLiteral("kelvo"));
+    AvoidBlockingSettings();
     connect(this, SIGNAL(messageReceived(QString)), this, SLOT(OnMessageReceived(QString)));
 }
 

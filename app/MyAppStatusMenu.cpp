@@ -7,6 +7,7 @@
 #include "figures/PieChart.h"
 #include "mainwindow/MainDialog.h"
 #include "platform/Global.h"
+#include "platform/LaunchFeedback.h"
 #include "platform/TrayHost.h"
 
 #include <QAction>
@@ -64,6 +65,8 @@ void MyApp::InitializeTrayIcon()
 
     if (!settings[QStringLiteral("HideAtStartUp")].toBool()) {
         mainDialog->setVisible(true);
+    } else {
+        EndLaunchFeedback();
     }
 
     // Deliberate: only version 1.1 tells that Kelvo has left the Dock. Later ones never show this.

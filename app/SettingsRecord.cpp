@@ -1,6 +1,9 @@
 #include "app/SettingsRecord.h"
 
+#include <QCoreApplication>
+#include <QFileInfo>
 #include <QSettings>
+#include <QStandardPaths>
 
 #include <algorithm>
 
@@ -14,6 +17,18 @@ bool Flag(const QVariantMap &record, const char *key)
 }
 
 } // namespace
+
+void AvoidBlockingSettings()
+{
+    const QString path = QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation) +
+                         QLatin1Char('/') + QCoreApplication::organizationName() + QLatin1Char('/') +
+                         QCoreApplication::applicationName() + QStringLiteral(".conf");
+    for (const QString &name : {path, path + QStringLiteral(".lock")}) {
+        if (const QFileInfo file(name); file.exists() && !file.isFile()) {
+            QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, QStringLiteral("/dev/null"));
+        }
+    }
+}
 
 void AddDefaultSettings(QVariantMap &record)
 {

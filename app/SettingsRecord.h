@@ -16,6 +16,11 @@
 //   UpdateFrequency int     0 every 2 s, any other value every 5 s  0
 //   MonoColor       bool    pie chart in black and white            (none)
 
+/// To be called before the first use of QSettings. If the settings file or its lock is something else than a
+/// file (a pipe, a directory), QSettings would wait for ever: it is pointed to nowhere then, so that the
+/// defaults hold and nothing is stored.
+void AvoidBlockingSettings();
+
 /// Gives every missing key its default. Values that are there stay as they are, whatever their type.
 /// MonoColor deliberately has no default: it reads false until the preferences panel adds it.
 void AddDefaultSettings(QVariantMap &record);

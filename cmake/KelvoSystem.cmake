@@ -7,6 +7,10 @@ else()
     message(FATAL_ERROR "Kelvo is not ported to ${CMAKE_SYSTEM_NAME}: it runs on Linux and macOS.")
 endif()
 
+if(CMAKE_SIZEOF_VOID_P LESS 8)
+    message(FATAL_ERROR "Kelvo needs a 64-bit system: freeing maps files larger than 32 bits can address.")
+endif()
+
 if(NOT CMAKE_BUILD_TYPE)
     set(CMAKE_BUILD_TYPE Release CACHE STRING "Build type" FORCE)
 endif()

@@ -3,10 +3,6 @@
 #include "platform/InstanceChannel.h"
 #include "platform/LaunchFeedback.h"
 
-// Of this launch, from the desktop. Read before Qt's platform plug-ins do, which remove them.
-static const QByteArray activationToken = qgetenv("XDG_ACTIVATION_TOKEN");
-static const QByteArray startupId = qgetenv("DESKTOP_STARTUP_ID");
-
 QtSingleApplication::QtSingleApplication(int &argc, char **argv, bool guiEnabled) : QApplication(argc, argv)
 {
     Q_UNUSED(guiEnabled)
@@ -21,9 +17,8 @@ bool QtSingleApplication::isRunning()
 
 bool QtSingleApplication::sendMessage(const QString &message, int timeout)
 {
-    const bool bSent =
-        Channel().Send(message, activationToken.isEmpty() ? startupId : activationToken, timeout);
-    EndLaunchFeedback(startupId);
+    const bool bSent = Channel().Send(message, LaunchToken(), timeout);
+    EndLaunchFeedback();
     return bSent;
 }
 

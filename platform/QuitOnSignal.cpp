@@ -5,18 +5,28 @@
 #include <QSocketNotifier>
 
 #include <cerrno>
+#include <ctime>
 
 #include <fcntl.h>
 #include <sys/socket.h>
 #include <unistd.h>
 
 static volatile std::sig_atomic_t wakeDescriptor = -1;
+static volatile time_t firstSecond = -1;
 
 extern "C" {
-/// A signal handler may call almost nothing: one byte wakes the event loop, which does the rest.
-static void WakeEventLoop(int)
+/// A signal handler may call almost nothing: one byte wakes the event loop, which does the rest. If that
+/// hangs, a second signal acts by default. Not within a second: a session may send two at once.
+static void WakeEventLoop(int number)
 {
     const int savedErrno = errno;
+    timespec now{};
+    clock_gettime(CLOCK_MONOTONIC, &now);
+    if (firstSecond >= 0 && now.tv_sec > firstSecond + 1) {
+        signal(number, SIG_DFL);
+        raise(number);
+    }
+    firstSecond = firstSecond < 0 ? now.tv_sec : firstSecond;
     const char byte = 0;
     // A full socket wakes it anyway.
     (void)!write(wakeDescriptor, &byte, 1);

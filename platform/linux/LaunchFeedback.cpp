@@ -4,9 +4,18 @@
 
 #include <algorithm>
 
+// From the desktop. Read before Qt's platform plug-ins do, which remove them.
+static const QByteArray activationToken = qgetenv("XDG_ACTIVATION_TOKEN");
+static const QByteArray startupId = qgetenv("DESKTOP_STARTUP_ID");
+
+QByteArray LaunchToken()
+{
+    return activationToken.isEmpty() ? startupId : activationToken;
+}
+
 // The freedesktop.org start-up notification: a text in client messages of 20 bytes to the root window. Qt
 // sends it with the first window that it shows. On Wayland the compositor knows by the activation token.
-void EndLaunchFeedback(const QByteArray &startupId)
+void EndLaunchFeedback()
 {
     xcb_connection_t *connection = XcbConnection();
     if (!connection || startupId.isEmpty()) {

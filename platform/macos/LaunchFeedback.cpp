@@ -1,4 +1,10 @@
 #include "platform/LaunchFeedback.h"
 
 // The system itself brings a running application to the front instead of launching it again.
-void EndLaunchFeedback(const QByteArray &) {}
+
+QByteArray LaunchToken()
+{
+    return QByteArray();
+}
+
+void EndLaunchFeedback() {}
