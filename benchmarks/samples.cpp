@@ -43,7 +43,8 @@ State RestingState()
     Rest(1000);
     QFile memory(QStringLiteral("/proc/self/smaps_rollup"));
     const QByteArray text = memory.open(QIODevice::ReadOnly) ? memory.readAll() : QByteArray();
-    return {FindField(text.constData(), "Anonymous").value_or(0), QDir(QStringLiteral("/proc/self/fd")).count()};
+    return {FindField(text.constData(), "Anonymous").value_or(0),
+            QDir(QStringLiteral("/proc/self/fd")).count()};
 }
 
 /// Takes a hundredth of the memory, or gives it back: enough for another icon.
@@ -52,7 +53,8 @@ void MoveFigures()
     static const auto size = static_cast<size_t>(sysconf(_SC_PHYS_PAGES) * sysconf(_SC_PAGESIZE) / 100);
     static void *block = MAP_FAILED;
     if (block == MAP_FAILED) {
-        block = mmap(nullptr, size, PROT_READ | PROT_WRITE, MAP_PRIVATE | MAP_ANONYMOUS | MAP_POPULATE, -1, 0);
+        block =
+            mmap(nullptr, size, PROT_READ | PROT_WRITE, MAP_PRIVATE | MAP_ANONYMOUS | MAP_POPULATE, -1, 0);
     } else {
         munmap(std::exchange(block, MAP_FAILED), size);
     }
