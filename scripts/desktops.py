@@ -1,0 +1,294 @@
+"""Whole desktops in a virtual X server, and what a user does with Kelvo there: the second half of scripts/panels."""
+import re
+import signal
+import time
+from collections import Counter
+
+from bus import wait_for
+from case import report
+from desktop import Desktop
+from kelvo import ACCESSIBLE, STATE_SHOWING, Kelvo
+
+WIDTH, HEIGHT = 1280, 800
+HUES = [(0, 255, 0), (0, 0, 255), (255, 255, 0), (255, 0, 0)]  # the pie's slices, and the marks of the menu's rows
+PATIENCE = 8
+STATE_ACTIVE = 1
+EVEN = {"free": 524288, "inactive": 524288, "active": 524288, "wired_down": 524288}
+# The menu's entries that can be chosen, counted from the top.
+FIRST, PREFERENCES, ABOUT, QUIT = 1, 6, 7, 8
+
+
+def like(seen, hue):
+    return all(abs(a - b) < 70 for a, b in zip(seen, hue))
+
+
+def differing(before, after):
+    """How many bytes of two pictures differ."""
+    return sum(a != b for a, b in zip(before, after))
+
+
+class Session(Desktop):
+    """A desktop with its window manager and its panel."""
+    panel = 0, 32  # rows of the screen
+    tray = True
+    click = "click", "1"
+    next_workspace, first_workspace, minimise = (), (), ()  # keys; none: xdotool can do it
+    environment = {}
+
+    def __init__(self):
+        super().__init__(f"{WIDTH}x{HEIGHT}")
+        # The shells want a system bus to ask, whatever it answers.
+        self.env |= {"LIBGL_ALWAYS_SOFTWARE": "1", "XDG_SESSION_TYPE": "x11",
+                     "DBUS_SYSTEM_BUS_ADDRESS": self.env["DBUS_SESSION_BUS_ADDRESS"], **self.environment}
+        try:
+            self.begin()
+        except BaseException:
+            self.close()
+            raise
+
+    @property
+    def wayland(self):
+        return self.env.get("QT_QPA_PLATFORM") == "wayland"
+
+    def key(self, *keys):
+        for key in keys:
+            self.run("xdotool", "key", key, "sleep", 0.1)
+
+    def terminal(self):
+        """A maximised terminal that writes every line typed into it to a file: the file."""
+        typed = self.home / "typed"
+        typed.touch()
+        command = ["foot", "--maximized"] if self.wayland else ["xterm", "-maximized", "-e"]
+        self.spawn(*command, "sh", "-c", f"cat >'{typed}'")
+        time.sleep(3)
+        return typed
+
+    def wait_for_name(self, name):
+        bus = ("org.freedesktop.DBus", "/", "org.freedesktop.DBus", "NameHasOwner", "(s)")
+        assert wait_for(lambda: self.session_bus.call(*bus, name)[0]), f"{name} does not come up"
+
+
+class Gnome(Session):
+    environment = {"XDG_CURRENT_DESKTOP": "GNOME"}
+    click = "click", "--repeat", "2", "--delay", "80", "1"  # a single one opens the menu
+    extensions = "['ubuntu-appindicators@ubuntu.com']"
+    command = ["gnome-shell", "--x11"]
+
+    def begin(self):
+        self.run("gsettings", "set", "org.gnome.shell", "enabled-extensions", self.extensions)
+        self.run("gsettings", "set", "org.gnome.desktop.notifications", "show-banners", "false")
+        self.shell = self.spawn(*self.command)
+        shell = ["busctl", "--user", "{}-property", "org.gnome.Shell", "/org/gnome/Shell", "org.gnome.Shell", "OverviewActive"]
+        order = lambda verb, *value: self.run(*(word.format(verb) for word in shell), *value, check=False)  # noqa: E731
+        assert wait_for(lambda: "true" in order("get")), "gnome-shell does not start"
+        time.sleep(2)
+        order("set", "b", "false")
+        time.sleep(2)
+
+
+class GnomeWithout(Gnome):
+    tray = False
+    extensions = "[]"
+
+
+class GnomeWayland(Gnome):
+    """In a window as large as the screen, so that everything else is the same."""
+    environment = {"XDG_CURRENT_DESKTOP": "GNOME", "XDG_SESSION_TYPE": "wayland",
+                   "MUTTER_DEBUG_DUMMY_MODE_SPECS": f"{WIDTH}x{HEIGHT}"}
+    command = ["gnome-shell", "--wayland", "--nested"]
+    next_workspace, first_workspace, minimise = ["super+Page_Down"], ["super+Page_Up"], ["super+h"]
+
+    def begin(self):
+        super().begin()
+        self.env |= {"WAYLAND_DISPLAY": "wayland-0", "QT_QPA_PLATFORM": "wayland"}
+
+
+class Plasma(Session):
+    panel = 752, HEIGHT
+    environment = {"XDG_CURRENT_DESKTOP": "KDE", "KDE_FULL_SESSION": "true", "KDE_SESSION_VERSION": "5"}
+
+    def begin(self):
+        self.spawn("kwin_x11")
+        self.spawn("kded5")
+        time.sleep(2)
+        self.shell = self.spawn("plasmashell")
+        time.sleep(12)
+        self.run("xdotool", "set_num_desktops", 2)
+
+
+class Mate(Session):
+    panel = 0, 25
+    environment = {"XDG_CURRENT_DESKTOP": "MATE"}
+
+    def begin(self):
+        self.spawn("marco")
+        time.sleep(2)
+        self.shell = self.spawn("mate-panel")
+        time.sleep(5)
+
+
+class Visit:
+    """Kelvo on a desktop, used as a user would."""
+
+    def __init__(self, name, session, program, pictures):
+        self.name, self.pictures, self.table = name, pictures, {}
+        self.desktop = session()
+        self.kelvo = Kelvo(self.desktop, program)
+        self.kelvo.use_built_resources()
+        self.kelvo.report(report(**EVEN))
+        top, bottom = self.desktop.panel
+        self.rest = (bottom, HEIGHT) if top == 0 else (0, top)
+
+    def rows(self, rows):
+        """How many pixels there are about of each of the pie's colours: some panels scale the icon."""
+        first, last = (row * WIDTH * 3 for row in rows)
+        counted = Counter(zip(*[iter(self.desktop.screenshot().data[first:last])] * 3))
+        return [sum(count for seen, count in counted.items() if like(seen, hue)) for hue in HUES]
+
+    def icon(self):
+        return all(count > 10 for count in self.rows(self.desktop.panel))
+
+    def pie(self):
+        """The main window, or the menu, is seen."""
+        return all(count > 20 for count in self.rows(self.rest))
+
+    def expect(self, column, seen, patience=PATIENCE):
+        begin = time.monotonic()
+        found = wait_for(seen, patience)
+        self.table[column] = f"{time.monotonic() - begin:.1f} s" if found else "MISSING"
+        time.sleep(0.5)
+        self.picture(column)
+        return found
+
+    def picture(self, name):
+        self.desktop.run("import", "-window", "root", self.pictures / f"{self.name}-{name}.png".replace(" ", "-"))
+
+    def windows(self, state):
+        """The titles of Kelvo's windows in this state."""
+        bus, root = self.desktop.accessibility, "/org/a11y/atspi/accessible/root"
+        found = []
+        for program in bus.call("org.a11y.atspi.Registry", root, ACCESSIBLE, "GetChildren")[0]:
+            if bus.get(*program, ACCESSIBLE, "Name") != "Kelvo":
+                continue
+            for window in bus.call(*program, ACCESSIBLE, "GetChildren")[0]:
+                if bus.call(*window, ACCESSIBLE, "GetState")[0][0] >> state & 1:
+                    found.append(bus.get(*window, ACCESSIBLE, "Name"))
+        return found
+
+    def front(self, title="Kelvo"):
+        """The window has the keyboard and nothing covers it."""
+        return self.windows(STATE_ACTIVE) == [title] and (title != "Kelvo" or self.pie())
+
+    def find_icon(self):
+        """The middle of the pie in the panel's right half."""
+        screen = self.desktop.screenshot()
+        seen = [(x, y) for y in range(*self.desktop.panel) for x in range(WIDTH // 2, WIDTH)
+                if any(like(screen.pixel(x, y), hue) for hue in HUES)]
+        return [sum(values) // len(seen) for values in zip(*seen)]
+
+    def click(self, how):
+        self.desktop.run("xdotool", "mousemove", *self.at, "sleep", 0.3, *how)
+
+    def choose(self, entry):
+        """Opens the icon's menu and chooses an entry by the keyboard."""
+        self.click(["click", "3"])
+        time.sleep(1)
+        self.desktop.key(*["Down"] * entry, "Return")
+
+    def hide(self):
+        self.desktop.key("alt+F4")
+        assert wait_for(lambda: not self.windows(STATE_SHOWING), PATIENCE), "the window stays"
+        time.sleep(0.5)
+
+    def cover(self):
+        """A click on the maximised terminal, where neither the window nor the panel is."""
+        self.desktop.run("xdotool", "mousemove", 60, 700, "sleep", 0.2, "click", 1)
+        assert wait_for(lambda: not self.pie(), PATIENCE), "the terminal does not cover the window"
+
+    def minimise(self):
+        if self.desktop.minimise:
+            self.desktop.key(*self.desktop.minimise)
+        else:
+            self.desktop.run("xdotool", "getactivewindow", "windowminimize")
+        assert wait_for(lambda: not self.pie(), PATIENCE), "the window is not minimised"
+
+    def leave(self):
+        """To an empty workspace."""
+        if self.desktop.next_workspace:
+            self.desktop.key(*self.desktop.next_workspace)
+        else:
+            self.desktop.run("xdotool", "set_desktop", 1)
+        assert wait_for(lambda: not self.pie(), PATIENCE), "the window came along"
+        time.sleep(1)
+
+    def come_back(self):
+        if self.desktop.first_workspace:
+            self.desktop.key(*self.desktop.first_workspace)
+        else:
+            self.desktop.run("xdotool", "set_desktop", 0)
+        time.sleep(1)
+
+    def run(self):
+        settings = {"HideAtStartUp": True, "StayOnTop": False, "Remind": True, "RemindThreshold": 3.0}
+        self.kelvo.store(settings, **{"MainWindow/Position": [500, 300]})
+        self.typed = self.desktop.terminal()
+        self.kelvo.start()
+        if self.desktop.tray:
+            self.with_icon()
+        else:
+            self.without_icon()
+
+    def with_icon(self):
+        self.expect("icon", self.icon)
+        self.at = self.find_icon()
+        before = self.desktop.screenshot().data
+        self.click(["click", "3"])
+        # Some desktops show no marks in menus.
+        self.expect("menu", lambda: differing(before, self.desktop.screenshot().data) > 5000)
+        self.desktop.key("Escape")
+        for column, ask in ("click", lambda: self.click(self.desktop.click)), ("row", lambda: self.choose(FIRST)), \
+                ("again", self.kelvo.run):
+            self.ask_in_every_state(column, ask)
+        for column, entry, title in ("prefs", PREFERENCES, "Kelvo Preferences"), ("about", ABOUT, "About Kelvo"):
+            self.choose(entry)
+            self.expect(column, lambda: self.front(title))  # noqa: B023
+            self.hide()
+        self.remind()
+        self.kelvo.run()
+        self.expect("shown", self.front)
+        self.hide()
+        self.table["close"] = "hides" if self.kelvo.processes[0].poll() is None else "ENDS"
+        self.choose(QUIT)
+        self.expect("quit", lambda: self.kelvo.processes[0].poll() == 0)
+
+    def ask_in_every_state(self, column, ask):
+        """Asks for the window while it is hidden, covered, minimised, and on another workspace."""
+        ask()
+        self.expect(f"{column} hidden", self.front)
+        for state in self.cover, self.minimise, self.leave:
+            state()
+            ask()
+            self.expect(f"{column} {state.__name__}", self.front)
+        self.come_back()
+        self.kelvo.run()
+        self.hide()
+
+    def remind(self):
+        """The reminder comes while somebody is typing."""
+        self.cover()
+        self.kelvo.report(report(**EVEN | {"inactive": 2 ** 20}))
+        before, text = self.typed.stat().st_size, "we we we\n"
+        times = 0
+        while times < 40 and not self.windows(STATE_SHOWING):
+            times += 1
+            self.desktop.run("xdotool", "type", text)
+        self.expect("reminder", lambda: self.windows(STATE_SHOWING))
+        for _ in range(3):
+            times += 1
+            self.desktop.run("xdotool", "type", text)
+        wait_for(lambda: self.typed.stat().st_size - before == times * len(text), 2)
+        self.table["typed"] = f"{100 * (self.typed.stat().st_size - before) // (times * len(text))} %"
+        self.picture("typed")
+        untouched = self.windows(STATE_SHOWING) == ["Kelvo"] and not self.pie()  # the reminder only
+        self.table["freed"] = "nothing" if untouched else "SOMETHING"
+        self.kelvo.report(report(**EVEN))
