@@ -5,6 +5,7 @@
 #include "dialogs/DialogPreferences.h"
 #include "dialogs/DialogReminder.h"
 #include "mainwindow/MainDialog.h"
+#include "platform/Activation.h"
 #include "platform/TrayHost.h"
 
 #include <QAction>
@@ -106,7 +107,7 @@ static void BringToFront(QWidget *window)
     }
     window->setVisible(true);
     window->raise();
-    window->activateWindow();
+    Activate(window);
 }
 
 void MyApp::OnShowMainDialog()

@@ -36,8 +36,7 @@ void MyApp::InitializeTrayIcon()
     addEntry(tr("Free Memory Now!"), this, SLOT(OnFreeMemory()));
     statusMenu->addSeparator();
     QAction *preferences = addEntry(tr("Kelvo Preferences..."), this, SLOT(OnPreferences()));
-    QAction *about = addEntry(tr("About Kelvo"), dialogAbout, SLOT(show()));
-    connect(about, SIGNAL(triggered()), this, SLOT(OnAbout()));
+    addEntry(tr("About Kelvo"), this, SLOT(OnAbout()));
     statusMenu->addSeparator();
     QAction *quitEntry = addEntry(tr("Quit"), this, SLOT(quit()));
 

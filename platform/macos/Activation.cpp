@@ -1,0 +1,8 @@
+#include "platform/Activation.h"
+
+#include <QWidget>
+
+void Activate(QWidget *window)
+{
+    window->activateWindow();
+}
