@@ -106,8 +106,10 @@ static void BringToFront(QWidget *window)
         window->setVisible(false);
     }
     window->setVisible(true);
-    window->raise();
+    // In this order: before it is active, a window manager may refuse to raise it, and then leaves it below
+    // the window that had the keyboard.
     Activate(window);
+    window->raise();
 }
 
 void MyApp::OnShowMainDialog()
