@@ -41,6 +41,14 @@ def scalable(path, size, *paints):
             paint(cairo.Context(surface))
 
 
+def follow_panel(path):
+    """Lets Plasma show a black SVG file in its panel's text colour: it replaces this style sheet."""
+    text = path.read_text().replace("fill:rgb(0%,0%,0%)", "fill:currentColor")
+    text = text.replace("<path ", '<path class="ColorScheme-Text" ')
+    sheet = '<style type="text/css" id="current-color-scheme">.ColorScheme-Text { color:#000000; }</style>'
+    path.write_text(text.replace("<g ", f"{sheet}\n<g ", 1))
+
+
 def colour(text, alpha=1.0):
     """Red, green, blue and alpha from 0 to 1, for a colour like "#4cc35e"."""
     return (*(int(text[i : i + 2], 16) / 255 for i in (1, 3, 5)), alpha)
@@ -256,6 +264,7 @@ def main():
     pie_chart().save(directory / "piechart.png", optimize=True)
     application_icon(directory / "app.svg").save(directory / "app96.png", optimize=True)
     scalable(directory / "app_symbolic.svg", 16, symbol)
+    follow_panel(directory / "app_symbolic.svg")
     # The classic window is white to #efefef. The dark one is half of whatever lies under it, black to mid-grey.
     wait_indicator(directory / "wait_indicator.gif", ground=0xF4, first=0xCA, last=0x38, least=24)
     wait_indicator(directory / "wait_indicator_dark.gif", ground=0x40, first=0x78, last=0xFF, least=80)
