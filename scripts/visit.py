@@ -1,15 +1,12 @@
-"""Whole desktops in a virtual X server, and what a user does with Kelvo there: the second half of scripts/panels."""
-import re
-import signal
+"""What a user does with Kelvo on a whole desktop: the second half of scripts/panels."""
 import time
 from collections import Counter
 
 from bus import wait_for
 from case import report
-from desktop import Desktop
 from kelvo import ACCESSIBLE, STATE_SHOWING, Kelvo
+from sessions import HEIGHT, WIDTH
 
-WIDTH, HEIGHT = 1280, 800
 HUES = [(0, 255, 0), (0, 0, 255), (255, 255, 0), (255, 0, 0)]  # the pie's slices, and the marks of the menu's rows
 PATIENCE = 8
 STATE_ACTIVE = 1
@@ -25,106 +22,6 @@ def like(seen, hue):
 def differing(before, after):
     """How many bytes of two pictures differ."""
     return sum(a != b for a, b in zip(before, after))
-
-
-class Session(Desktop):
-    """A desktop with its window manager and its panel."""
-    panel = 0, 32  # rows of the screen
-    tray = True
-    click = "click", "1"
-    next_workspace, first_workspace, minimise = (), (), ()  # keys; none: xdotool can do it
-    environment = {}
-
-    def __init__(self):
-        super().__init__(f"{WIDTH}x{HEIGHT}")
-        # The shells want a system bus to ask, whatever it answers.
-        self.env |= {"LIBGL_ALWAYS_SOFTWARE": "1", "XDG_SESSION_TYPE": "x11",
-                     "DBUS_SYSTEM_BUS_ADDRESS": self.env["DBUS_SESSION_BUS_ADDRESS"], **self.environment}
-        try:
-            self.begin()
-        except BaseException:
-            self.close()
-            raise
-
-    @property
-    def wayland(self):
-        return self.env.get("QT_QPA_PLATFORM") == "wayland"
-
-    def key(self, *keys):
-        for key in keys:
-            self.run("xdotool", "key", key, "sleep", 0.1)
-
-    def terminal(self):
-        """A maximised terminal that writes every line typed into it to a file: the file."""
-        typed = self.home / "typed"
-        typed.touch()
-        command = ["foot", "--maximized"] if self.wayland else ["xterm", "-maximized", "-e"]
-        self.spawn(*command, "sh", "-c", f"cat >'{typed}'")
-        time.sleep(3)
-        return typed
-
-    def wait_for_name(self, name):
-        bus = ("org.freedesktop.DBus", "/", "org.freedesktop.DBus", "NameHasOwner", "(s)")
-        assert wait_for(lambda: self.session_bus.call(*bus, name)[0]), f"{name} does not come up"
-
-
-class Gnome(Session):
-    environment = {"XDG_CURRENT_DESKTOP": "GNOME"}
-    click = "click", "--repeat", "2", "--delay", "80", "1"  # a single one opens the menu
-    extensions = "['ubuntu-appindicators@ubuntu.com']"
-    command = ["gnome-shell", "--x11"]
-
-    def begin(self):
-        self.run("gsettings", "set", "org.gnome.shell", "enabled-extensions", self.extensions)
-        self.run("gsettings", "set", "org.gnome.desktop.notifications", "show-banners", "false")
-        self.shell = self.spawn(*self.command)
-        shell = ["busctl", "--user", "{}-property", "org.gnome.Shell", "/org/gnome/Shell", "org.gnome.Shell", "OverviewActive"]
-        order = lambda verb, *value: self.run(*(word.format(verb) for word in shell), *value, check=False)  # noqa: E731
-        assert wait_for(lambda: "true" in order("get")), "gnome-shell does not start"
-        time.sleep(2)
-        order("set", "b", "false")
-        time.sleep(2)
-
-
-class GnomeWithout(Gnome):
-    tray = False
-    extensions = "[]"
-
-
-class GnomeWayland(Gnome):
-    """In a window as large as the screen, so that everything else is the same."""
-    environment = {"XDG_CURRENT_DESKTOP": "GNOME", "XDG_SESSION_TYPE": "wayland",
-                   "MUTTER_DEBUG_DUMMY_MODE_SPECS": f"{WIDTH}x{HEIGHT}"}
-    command = ["gnome-shell", "--wayland", "--nested"]
-    next_workspace, first_workspace, minimise = ["super+Page_Down"], ["super+Page_Up"], ["super+h"]
-
-    def begin(self):
-        super().begin()
-        self.env |= {"WAYLAND_DISPLAY": "wayland-0", "QT_QPA_PLATFORM": "wayland"}
-
-
-class Plasma(Session):
-    panel = 752, HEIGHT
-    environment = {"XDG_CURRENT_DESKTOP": "KDE", "KDE_FULL_SESSION": "true", "KDE_SESSION_VERSION": "5"}
-
-    def begin(self):
-        self.spawn("kwin_x11")
-        self.spawn("kded5")
-        time.sleep(2)
-        self.shell = self.spawn("plasmashell")
-        time.sleep(12)
-        self.run("xdotool", "set_num_desktops", 2)
-
-
-class Mate(Session):
-    panel = 0, 25
-    environment = {"XDG_CURRENT_DESKTOP": "MATE"}
-
-    def begin(self):
-        self.spawn("marco")
-        time.sleep(2)
-        self.shell = self.spawn("mate-panel")
-        time.sleep(5)
 
 
 class Visit:
@@ -159,6 +56,10 @@ class Visit:
         time.sleep(0.5)
         self.picture(column)
         return found
+
+    def expect_change(self, column, before, seen=lambda: True):
+        """Something as large as a menu appears on the screen."""
+        return self.expect(column, lambda: seen() and differing(before, self.desktop.screenshot().data) > 30000)
 
     def picture(self, name):
         self.desktop.run("import", "-window", "root", self.pictures / f"{self.name}-{name}.png".replace(" ", "-"))
@@ -200,9 +101,16 @@ class Visit:
         assert wait_for(lambda: not self.windows(STATE_SHOWING), PATIENCE), "the window stays"
         time.sleep(0.5)
 
+    def use_terminal(self):
+        """As a user does between two looks at Kelvo: from now on, older requests for the keyboard are refused."""
+        self.desktop.run("xdotool", "mousemove", 60, 700, "sleep", 0.2, "click", 1, "sleep", 0.2, "key", "Return")
+
+    def keep_hidden(self):
+        """It is hidden already."""
+
     def cover(self):
-        """A click on the maximised terminal, where neither the window nor the panel is."""
-        self.desktop.run("xdotool", "mousemove", 60, 700, "sleep", 0.2, "click", 1)
+        """By the maximised terminal."""
+        self.use_terminal()
         assert wait_for(lambda: not self.pie(), PATIENCE), "the terminal does not cover the window"
 
     def minimise(self):
@@ -243,15 +151,15 @@ class Visit:
         self.at = self.find_icon()
         before = self.desktop.screenshot().data
         self.click(["click", "3"])
-        # Some desktops show no marks in menus.
-        self.expect("menu", lambda: differing(before, self.desktop.screenshot().data) > 5000)
+        self.expect_change("menu", before)  # some desktops show no marks in menus
         self.desktop.key("Escape")
         for column, ask in ("click", lambda: self.click(self.desktop.click)), ("row", lambda: self.choose(FIRST)), \
                 ("again", self.kelvo.run):
             self.ask_in_every_state(column, ask)
         for column, entry, title in ("prefs", PREFERENCES, "Kelvo Preferences"), ("about", ABOUT, "About Kelvo"):
+            before = self.desktop.screenshot().data
             self.choose(entry)
-            self.expect(column, lambda: self.front(title))  # noqa: B023
+            self.expect_change(column, before, lambda: self.front(title))  # noqa: B023
             self.hide()
         self.remind()
         self.kelvo.run()
@@ -263,14 +171,14 @@ class Visit:
 
     def ask_in_every_state(self, column, ask):
         """Asks for the window while it is hidden, covered, minimised, and on another workspace."""
-        ask()
-        self.expect(f"{column} hidden", self.front)
-        for state in self.cover, self.minimise, self.leave:
+        for state in self.keep_hidden, self.cover, self.minimise, self.leave:
             state()
+            self.use_terminal()
             ask()
             self.expect(f"{column} {state.__name__}", self.front)
         self.come_back()
         self.kelvo.run()
+        time.sleep(1)
         self.hide()
 
     def remind(self):
@@ -291,4 +199,34 @@ class Visit:
         self.picture("typed")
         untouched = self.windows(STATE_SHOWING) == ["Kelvo"] and not self.pie()  # the reminder only
         self.table["freed"] = "nothing" if untouched else "SOMETHING"
+        self.kelvo.press("No")
         self.kelvo.report(report(**EVEN))
+
+    def without_icon(self):
+        """Kelvo is used by its window alone: it comes by itself, and closing it ends the program."""
+        self.expect("window", self.pie)
+        self.kelvo.run()
+        self.expect("again", self.front)
+        x, y, _, height = self.desktop.place(self.desktop.run("xdotool", "getactivewindow").strip())
+        for column, keys in ("menu", []), ("Menu key", ["Menu"]), ("Shift+F10", ["shift+F10"]):
+            before = self.desktop.screenshot().data
+            if keys:
+                self.desktop.key(*keys)
+            else:
+                self.desktop.run("xdotool", "mousemove", x + 40, y + height - 20, "sleep", 0.3, "click", 3)
+            self.expect_change(column, before)
+            self.desktop.key("Escape")
+            time.sleep(0.5)
+        self.desktop.key("ctrl+comma")
+        self.expect("prefs", lambda: self.front("Kelvo Preferences"))
+        self.desktop.key("alt+F4")
+        self.kelvo.run()
+        wait_for(self.front, PATIENCE)
+        self.desktop.key("alt+F4")
+        self.expect("close", lambda: self.kelvo.processes[0].poll() == 0)
+        self.kelvo.start()
+        self.expect("window", self.pie)
+        self.kelvo.run()
+        wait_for(self.front, PATIENCE)
+        self.desktop.key("ctrl+q")
+        self.expect("quit", lambda: self.kelvo.processes[-2].poll() == 0)
