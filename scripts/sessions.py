@@ -94,6 +94,9 @@ class PlasmaWayland(Plasma):
     next_workspace, first_workspace, minimise = ["ctrl+F2"], ["ctrl+F1"], ["super+Page_Down"]
 
     def begin(self):
+        settings = self.home / ".config/kwinrc"
+        settings.parent.mkdir(exist_ok=True)
+        settings.write_text("[Desktops]\nNumber=2\nRows=1\n")
         # A copy has not the file's capability, which a container may refuse.
         kwin = shutil.copy("/usr/bin/kwin_wayland", self.home)
         self.spawn(kwin, "--x11-display", self.env["DISPLAY"], "--width", WIDTH, "--height", HEIGHT,

@@ -1,4 +1,13 @@
-"""What a user does with Kelvo on a whole desktop: the second half of scripts/panels."""
+"""What a user does with Kelvo on a whole desktop: the second half of scripts/panels.
+
+icon, menu   they are seen
+click, row, again   a click on the icon, the menu's first row, or a second launch brings the window to the front with the
+             keyboard, while it is hidden, covered by another window, minimised, or on another workspace (elsewhere)
+prefs, about the same of these windows
+reminder     it comes while somebody types into a terminal; "typed" is what the terminal got of it. On X11 that must be
+             everything. On Wayland the compositor gives the reminder the keyboard, but nothing may be freed
+shown, close, quit   the window, its closing and the menu's last entry; without an icon, closing ends the program
+"""
 import time
 from collections import Counter
 
@@ -105,9 +114,6 @@ class Visit:
         """As a user does between two looks at Kelvo: from now on, older requests for the keyboard are refused."""
         self.desktop.run("xdotool", "mousemove", 60, 700, "sleep", 0.2, "click", 1, "sleep", 0.2, "key", "Return")
 
-    def keep_hidden(self):
-        """It is hidden already."""
-
     def cover(self):
         """By the maximised terminal."""
         self.use_terminal()
@@ -171,11 +177,13 @@ class Visit:
 
     def ask_in_every_state(self, column, ask):
         """Asks for the window while it is hidden, covered, minimised, and on another workspace."""
-        for state in self.keep_hidden, self.cover, self.minimise, self.leave:
-            state()
+        states = {"hidden": None, "covered": self.cover, "minimised": self.minimise, "elsewhere": self.leave}
+        for word, begin in states.items():
+            if begin:
+                begin()
             self.use_terminal()
             ask()
-            self.expect(f"{column} {state.__name__}", self.front)
+            self.expect(f"{column} {word}", self.front)
         self.come_back()
         self.kelvo.run()
         time.sleep(1)
@@ -195,7 +203,8 @@ class Visit:
             times += 1
             self.desktop.run("xdotool", "type", text)
         wait_for(lambda: self.typed.stat().st_size - before == times * len(text), 2)
-        self.table["typed"] = f"{100 * (self.typed.stat().st_size - before) // (times * len(text))} %"
+        arrived = 100 * (self.typed.stat().st_size - before) // (times * len(text))
+        self.table["typed"] = f"{arrived} %" if arrived == 100 or "WAYLAND_DISPLAY" in self.desktop.env else "MISSING"
         self.picture("typed")
         untouched = self.windows(STATE_SHOWING) == ["Kelvo"] and not self.pie()  # the reminder only
         self.table["freed"] = "nothing" if untouched else "SOMETHING"
