@@ -36,7 +36,8 @@ void MyApp::InitializeTrayIcon()
     addEntry(tr("Free Memory Now!"), this, SLOT(OnFreeMemory()));
     statusMenu->addSeparator();
     QAction *preferences = addEntry(tr("Kelvo Preferences..."), this, SLOT(OnPreferences()));
-    addEntry(tr("About Kelvo"), this, SLOT(OnAbout()));
+    QAction *about = addEntry(tr("About Kelvo"), this, SLOT(OnAbout()));
+    connect(about, SIGNAL(triggered()), dialogAbout, SLOT(show()));
     statusMenu->addSeparator();
     QAction *quitEntry = addEntry(tr("Quit"), this, SLOT(quit()));
 

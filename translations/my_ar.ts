@@ -17,7 +17,7 @@
     </message>
     <message>
         <source>Leave Feedback</source>
-        <translation>اترك تعليقًا</translation>
+        <translation>ترك تعليق</translation>
     </message>
     <message>
         <source>version %1</source>
@@ -56,7 +56,7 @@
     </message>
     <message>
         <source>5 seconds</source>
-        <translation>5 ثوانٍ</translation>
+        <translation>خمس ثوانٍ</translation>
     </message>
     <message>
         <source>Keep main window on top of other windows</source>
@@ -80,11 +80,11 @@
     </message>
     <message>
         <source>Automatically hide main window after freeing is completed</source>
-        <translation>إخفاء النافذة الرئيسية تلقائيًا بعد اكتمال التحرير</translation>
+        <translation>إخفاء النافذة الرئيسية تلقائيًا بعد اكتمال تحرير الذاكرة</translation>
     </message>
     <message>
         <source>Remind me to free memory when inactive memory </source>
-        <translation>تذكيري بتحرير الذاكرة عندما </translation>
+        <translation>التذكير بتحرير الذاكرة عندما </translation>
     </message>
     <message>
         <source>reaches over</source>
@@ -96,7 +96,7 @@
     </message>
     <message>
         <source>On Wayland, a program cannot keep its window on top.</source>
-        <translation>في Wayland، لا يستطيع البرنامج إبقاء نافذته في المقدمة.</translation>
+        <translation>في Wayland، لا يمكن للبرنامج إبقاء نافذته فوق النوافذ الأخرى.</translation>
     </message>
 </context>
 <context>
@@ -115,7 +115,7 @@
     </message>
     <message>
         <source>Do Not Remind Me</source>
-        <translation>لا تذكّرني مجددًا</translation>
+        <translation>عدم التذكير مجددًا</translation>
     </message>
 </context>
 <context>

@@ -80,7 +80,7 @@
     </message>
     <message>
         <source>Automatically hide main window after freeing is completed</source>
-        <translation>Hauptfenster nach der Freigabe automatisch ausblenden</translation>
+        <translation>Hauptfenster nach der Speicherfreigabe automatisch ausblenden</translation>
     </message>
     <message>
         <source>Remind me to free memory when inactive memory </source>

@@ -48,7 +48,7 @@
     </message>
     <message>
         <source>Update frequency</source>
-        <translation>Frecuencia de actualización</translation>
+        <translation>Intervalo de actualización</translation>
     </message>
     <message>
         <source>2 seconds</source>
@@ -96,7 +96,7 @@
     </message>
     <message>
         <source>On Wayland, a program cannot keep its window on top.</source>
-        <translation>En Wayland, un programa no puede mantener su ventana por encima de las demás.</translation>
+        <translation>En Wayland, un programa no puede mantener su ventana encima de las demás.</translation>
     </message>
 </context>
 <context>

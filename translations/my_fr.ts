@@ -13,7 +13,7 @@
     </message>
     <message>
         <source>Made by &lt;a href=&quot;%1&quot;&gt;Orvanta&lt;/a&gt;</source>
-        <translation>Réalisé par &lt;a href=&quot;%1&quot;&gt;Orvanta&lt;/a&gt;</translation>
+        <translation>Développé par &lt;a href=&quot;%1&quot;&gt;Orvanta&lt;/a&gt;</translation>
     </message>
     <message>
         <source>Leave Feedback</source>
@@ -48,7 +48,7 @@
     </message>
     <message>
         <source>Update frequency</source>
-        <translation>Fréquence d’actualisation</translation>
+        <translation>Intervalle d’actualisation</translation>
     </message>
     <message>
         <source>2 seconds</source>
@@ -64,7 +64,7 @@
     </message>
     <message>
         <source>Show pie chart on menubar</source>
-        <translation>Afficher le diagramme circulaire dans la barre des menus</translation>
+        <translation>Afficher le diagramme dans la barre de menus</translation>
     </message>
     <message>
         <source>Monocolor pie chart</source>
@@ -135,7 +135,7 @@ p, li { white-space: pre-wrap; }
 &lt;html&gt;&lt;head&gt;&lt;meta name=&quot;qrichtext&quot; content=&quot;1&quot; /&gt;&lt;style type=&quot;text/css&quot;&gt;
 p, li { white-space: pre-wrap; }
 &lt;/style&gt;&lt;/head&gt;&lt;body style=&quot; font-family:&apos;Lucida Grande&apos;; font-size:13pt; font-weight:400; font-style:normal;&quot;&gt;
-&lt;p style=&quot; margin-top:0px; margin-bottom:0px; margin-left:0px; margin-right:0px; -qt-block-indent:0; text-indent:0px;&quot;&gt;&lt;span style=&quot; font-weight:600;&quot;&gt;REMARQUE&lt;/span&gt;&#xa0;: à partir de cette version, Kelvo se trouve uniquement dans la barre des menus et n’affiche plus d’icône dans le Dock. Si vous ne l’avez pas encore remarquée, cherchez l’icône &lt;img src=&quot;:/app16.png&quot; /&gt; ou &lt;img src=&quot;:/piechart.png&quot; /&gt; dans la barre des menus.&lt;/p&gt;
+&lt;p style=&quot; margin-top:0px; margin-bottom:0px; margin-left:0px; margin-right:0px; -qt-block-indent:0; text-indent:0px;&quot;&gt;&lt;span style=&quot; font-weight:600;&quot;&gt;REMARQUE&lt;/span&gt;&#xa0;: à partir de cette version, Kelvo se trouve uniquement dans la barre de menus et n’affiche plus d’icône dans le Dock. Si vous ne l’avez pas encore remarquée, cherchez l’icône &lt;img src=&quot;:/app16.png&quot; /&gt; ou &lt;img src=&quot;:/piechart.png&quot; /&gt; dans la barre de menus.&lt;/p&gt;
 &lt;p&gt;Ce message ne s’affichera plus.&lt;/p&gt;&lt;/body&gt;&lt;/html&gt;</translation>
     </message>
 </context>

@@ -13,7 +13,7 @@
     </message>
     <message>
         <source>Made by &lt;a href=&quot;%1&quot;&gt;Orvanta&lt;/a&gt;</source>
-        <translation>निर्माता: &lt;a href=&quot;%1&quot;&gt;Orvanta&lt;/a&gt;</translation>
+        <translation>डेवलपर: &lt;a href=&quot;%1&quot;&gt;Orvanta&lt;/a&gt;</translation>
     </message>
     <message>
         <source>Leave Feedback</source>
@@ -28,7 +28,7 @@
     <name>DialogPreferences</name>
     <message>
         <source>Kelvo Preferences</source>
-        <translation>Kelvo की प्राथमिकताएँ</translation>
+        <translation>Kelvo की वरीयताएँ</translation>
     </message>
     <message>
         <source>Main Window Style</source>
@@ -40,7 +40,7 @@
     </message>
     <message>
         <source>Dark &amp;&amp; Translucent</source>
-        <translation>गहरी और पारभासी</translation>
+        <translation>गहरे रंग की और पारभासी</translation>
     </message>
     <message>
         <source>Do not show window title bar</source>
@@ -64,7 +64,7 @@
     </message>
     <message>
         <source>Show pie chart on menubar</source>
-        <translation>मेनू पट्टी पर पाई चार्ट दिखाएँ</translation>
+        <translation>मेन्यू पट्टी पर पाई चार्ट दिखाएँ</translation>
     </message>
     <message>
         <source>Monocolor pie chart</source>
@@ -96,7 +96,7 @@
     </message>
     <message>
         <source>On Wayland, a program cannot keep its window on top.</source>
-        <translation>Wayland पर कोई प्रोग्राम अपनी विंडो को सबसे ऊपर नहीं रख सकता।</translation>
+        <translation>Wayland पर कोई प्रोग्राम अपनी विंडो को अन्य विंडो के ऊपर नहीं रख सकता।</translation>
     </message>
 </context>
 <context>
@@ -115,7 +115,7 @@
     </message>
     <message>
         <source>Do Not Remind Me</source>
-        <translation>याद न दिलाएँ</translation>
+        <translation>दोबारा याद न दिलाएँ</translation>
     </message>
 </context>
 <context>
@@ -135,7 +135,7 @@ p, li { white-space: pre-wrap; }
 &lt;html&gt;&lt;head&gt;&lt;meta name=&quot;qrichtext&quot; content=&quot;1&quot; /&gt;&lt;style type=&quot;text/css&quot;&gt;
 p, li { white-space: pre-wrap; }
 &lt;/style&gt;&lt;/head&gt;&lt;body style=&quot; font-family:&apos;Lucida Grande&apos;; font-size:13pt; font-weight:400; font-style:normal;&quot;&gt;
-&lt;p style=&quot; margin-top:0px; margin-bottom:0px; margin-left:0px; margin-right:0px; -qt-block-indent:0; text-indent:0px;&quot;&gt;&lt;span style=&quot; font-weight:600;&quot;&gt;ध्यान दें&lt;/span&gt;: इस संस्करण से Kelvo केवल मेनू पट्टी पर रहेगा और Dock में आइकन नहीं दिखाएगा। यदि आपने उसे अब तक नहीं देखा है, तो मेनू पट्टी पर &lt;img src=&quot;:/app16.png&quot; /&gt; या &lt;img src=&quot;:/piechart.png&quot; /&gt; आइकन खोजें।&lt;/p&gt;
+&lt;p style=&quot; margin-top:0px; margin-bottom:0px; margin-left:0px; margin-right:0px; -qt-block-indent:0; text-indent:0px;&quot;&gt;&lt;span style=&quot; font-weight:600;&quot;&gt;ध्यान दें&lt;/span&gt;: इस संस्करण से Kelvo केवल मेन्यू पट्टी पर रहेगा और Dock में आइकन नहीं दिखाएगा। यदि आपने उसे अब तक नहीं देखा है, तो मेन्यू पट्टी पर &lt;img src=&quot;:/app16.png&quot; /&gt; या &lt;img src=&quot;:/piechart.png&quot; /&gt; आइकन खोजें।&lt;/p&gt;
 &lt;p&gt;यह संदेश दोबारा नहीं दिखेगा।&lt;/p&gt;&lt;/body&gt;&lt;/html&gt;</translation>
     </message>
 </context>
@@ -251,11 +251,11 @@ p, li { white-space: pre-wrap; }
     </message>
     <message>
         <source>Kelvo Preferences...</source>
-        <translation>Kelvo की प्राथमिकताएँ…</translation>
+        <translation>Kelvo की वरीयताएँ…</translation>
     </message>
     <message>
         <source>About Kelvo</source>
-        <translation>Kelvo के बारे में</translation>
+        <translation>Kelvo का परिचय</translation>
     </message>
     <message>
         <source>Quit</source>

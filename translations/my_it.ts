@@ -48,7 +48,7 @@
     </message>
     <message>
         <source>Update frequency</source>
-        <translation>Frequenza di aggiornamento</translation>
+        <translation>Intervallo di aggiornamento</translation>
     </message>
     <message>
         <source>2 seconds</source>
@@ -96,7 +96,7 @@
     </message>
     <message>
         <source>On Wayland, a program cannot keep its window on top.</source>
-        <translation>In Wayland un programma non può tenere la propria finestra in primo piano.</translation>
+        <translation>In Wayland un programma non può mantenere la propria finestra sopra le altre.</translation>
     </message>
 </context>
 <context>

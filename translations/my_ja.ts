@@ -80,7 +80,7 @@
     </message>
     <message>
         <source>Automatically hide main window after freeing is completed</source>
-        <translation>解放が完了したらメインウィンドウを自動的に隠す</translation>
+        <translation>メモリの解放が完了したらメインウィンドウを自動的に隠す</translation>
     </message>
     <message>
         <source>Remind me to free memory when inactive memory </source>
@@ -96,7 +96,7 @@
     </message>
     <message>
         <source>On Wayland, a program cannot keep its window on top.</source>
-        <translation>Wayland では、プログラムは自分のウィンドウを最前面に保てません。</translation>
+        <translation>Wayland では、アプリは自分のウィンドウを常に手前に表示することができません。</translation>
     </message>
 </context>
 <context>
@@ -156,7 +156,7 @@ p, li { white-space: pre-wrap; }
 &lt;html&gt;&lt;head&gt;&lt;meta name=&quot;qrichtext&quot; content=&quot;1&quot; /&gt;&lt;style type=&quot;text/css&quot;&gt;
 p, li { white-space: pre-wrap; }
 &lt;/style&gt;&lt;/head&gt;&lt;body style=&quot; font-family:&apos;Lucida Grande&apos;; font-size:13pt; font-weight:400; font-style:normal;&quot;&gt;
-&lt;p style=&quot; margin-top:12px; margin-bottom:12px; margin-left:0px; margin-right:0px; -qt-block-indent:0; text-indent:0px;&quot;&gt;&lt;span style=&quot; font-weight:600;&quot;&gt;注意&lt;/span&gt;: メモリの解放中は、しばらくの間システムが応答していないように見えることがあります。これはメモリの再編成中の正常な動作です。その間は他のアプリケーションを起動しないことをお勧めします。 &lt;/p&gt;
+&lt;p style=&quot; margin-top:12px; margin-bottom:12px; margin-left:0px; margin-right:0px; -qt-block-indent:0; text-indent:0px;&quot;&gt;&lt;span style=&quot; font-weight:600;&quot;&gt;注意&lt;/span&gt;: メモリの解放中は、しばらくの間システムが応答していないように見えることがあります。これはメモリの再編成中の正常な動作です。その間は他のアプリを起動しないことをお勧めします。 &lt;/p&gt;
 &lt;p style=&quot; margin-top:12px; margin-bottom:12px; margin-left:0px; margin-right:0px; -qt-block-indent:0; text-indent:0px;&quot;&gt;処理には最大 1 分ほどかかることがあります。非アクティブメモリを最小にするには、「メモリを解放」を数回実行する必要がある場合もあります。&lt;/p&gt;&lt;/body&gt;&lt;/html&gt;</translation>
     </message>
     <message>
@@ -255,7 +255,7 @@ p, li { white-space: pre-wrap; }
     </message>
     <message>
         <source>About Kelvo</source>
-        <translation>Kelvo について</translation>
+        <translation>Kelvo のバージョン情報</translation>
     </message>
     <message>
         <source>Quit</source>

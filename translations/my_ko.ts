@@ -28,7 +28,7 @@
     <name>DialogPreferences</name>
     <message>
         <source>Kelvo Preferences</source>
-        <translation>Kelvo 환경설정</translation>
+        <translation>Kelvo 기본 설정</translation>
     </message>
     <message>
         <source>Main Window Style</source>
@@ -44,7 +44,7 @@
     </message>
     <message>
         <source>Do not show window title bar</source>
-        <translation>창 제목 표시줄 표시하지 않기</translation>
+        <translation>창 제목 표시줄 숨기기</translation>
     </message>
     <message>
         <source>Update frequency</source>
@@ -64,7 +64,7 @@
     </message>
     <message>
         <source>Show pie chart on menubar</source>
-        <translation>메뉴 막대에 원형 차트 표시</translation>
+        <translation>메뉴 표시줄에 원형 차트 표시</translation>
     </message>
     <message>
         <source>Monocolor pie chart</source>
@@ -96,7 +96,7 @@
     </message>
     <message>
         <source>On Wayland, a program cannot keep its window on top.</source>
-        <translation>Wayland에서는 프로그램이 자신의 창을 항상 위에 둘 수 없습니다.</translation>
+        <translation>Wayland에서는 프로그램이 자신의 창을 다른 창 위에 유지할 수 없습니다.</translation>
     </message>
 </context>
 <context>
@@ -135,7 +135,7 @@ p, li { white-space: pre-wrap; }
 &lt;html&gt;&lt;head&gt;&lt;meta name=&quot;qrichtext&quot; content=&quot;1&quot; /&gt;&lt;style type=&quot;text/css&quot;&gt;
 p, li { white-space: pre-wrap; }
 &lt;/style&gt;&lt;/head&gt;&lt;body style=&quot; font-family:&apos;Lucida Grande&apos;; font-size:13pt; font-weight:400; font-style:normal;&quot;&gt;
-&lt;p style=&quot; margin-top:0px; margin-bottom:0px; margin-left:0px; margin-right:0px; -qt-block-indent:0; text-indent:0px;&quot;&gt;&lt;span style=&quot; font-weight:600;&quot;&gt;참고&lt;/span&gt;: 이 버전부터 Kelvo는 메뉴 막대에서만 실행되며 Dock에 아이콘을 표시하지 않습니다. 아직 보지 못했다면 메뉴 막대에서 &lt;img src=&quot;:/app16.png&quot; /&gt; 또는 &lt;img src=&quot;:/piechart.png&quot; /&gt; 아이콘을 찾아보십시오.&lt;/p&gt;
+&lt;p style=&quot; margin-top:0px; margin-bottom:0px; margin-left:0px; margin-right:0px; -qt-block-indent:0; text-indent:0px;&quot;&gt;&lt;span style=&quot; font-weight:600;&quot;&gt;참고&lt;/span&gt;: 이 버전부터 Kelvo는 메뉴 표시줄에서만 실행되며 Dock에 아이콘을 표시하지 않습니다. 아직 보지 못했다면 메뉴 표시줄에서 &lt;img src=&quot;:/app16.png&quot; /&gt; 또는 &lt;img src=&quot;:/piechart.png&quot; /&gt; 아이콘을 찾아보십시오.&lt;/p&gt;
 &lt;p&gt;이 메시지는 다시 표시되지 않습니다.&lt;/p&gt;&lt;/body&gt;&lt;/html&gt;</translation>
     </message>
 </context>
@@ -161,7 +161,7 @@ p, li { white-space: pre-wrap; }
     </message>
     <message>
         <source>Do not show this message again.</source>
-        <translation>이 메시지를 다시 표시하지 않음</translation>
+        <translation>이 메시지를 다시 표시하지 않기</translation>
     </message>
 </context>
 <context>
@@ -251,7 +251,7 @@ p, li { white-space: pre-wrap; }
     </message>
     <message>
         <source>Kelvo Preferences...</source>
-        <translation>Kelvo 환경설정…</translation>
+        <translation>Kelvo 기본 설정…</translation>
     </message>
     <message>
         <source>About Kelvo</source>
@@ -259,7 +259,7 @@ p, li { white-space: pre-wrap; }
     </message>
     <message>
         <source>Quit</source>
-        <translation>종료</translation>
+        <translation>끝내기</translation>
     </message>
     <message>
         <source>Free: </source>

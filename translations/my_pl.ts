@@ -48,7 +48,7 @@
     </message>
     <message>
         <source>Update frequency</source>
-        <translation>Częstotliwość odświeżania</translation>
+        <translation>Okres odświeżania</translation>
     </message>
     <message>
         <source>2 seconds</source>
@@ -60,7 +60,7 @@
     </message>
     <message>
         <source>Keep main window on top of other windows</source>
-        <translation>Trzymaj główne okno nad innymi oknami</translation>
+        <translation>Utrzymuj główne okno zawsze na wierzchu</translation>
     </message>
     <message>
         <source>Show pie chart on menubar</source>
@@ -96,7 +96,7 @@
     </message>
     <message>
         <source>On Wayland, a program cannot keep its window on top.</source>
-        <translation>W środowisku Wayland program nie może utrzymać swojego okna na wierzchu.</translation>
+        <translation>W środowisku Wayland program nie może utrzymywać swojego okna na wierzchu.</translation>
     </message>
 </context>
 <context>
@@ -115,7 +115,7 @@
     </message>
     <message>
         <source>Do Not Remind Me</source>
-        <translation>Nie przypominaj</translation>
+        <translation>Nie przypominaj więcej</translation>
     </message>
 </context>
 <context>

@@ -48,7 +48,7 @@
     </message>
     <message>
         <source>Update frequency</source>
-        <translation>Frequência de atualização</translation>
+        <translation>Intervalo de atualização</translation>
     </message>
     <message>
         <source>2 seconds</source>
@@ -72,7 +72,7 @@
     </message>
     <message>
         <source>Automatically launch Kelvo when I log in</source>
-        <translation>Iniciar o Kelvo automaticamente ao iniciar a sessão</translation>
+        <translation>Abrir o Kelvo automaticamente ao iniciar a sessão</translation>
     </message>
     <message>
         <source>Hide main window when Kelvo starts up</source>
@@ -80,7 +80,7 @@
     </message>
     <message>
         <source>Automatically hide main window after freeing is completed</source>
-        <translation>Ocultar a janela principal automaticamente após a liberação</translation>
+        <translation>Ocultar a janela principal automaticamente após a liberação da memória</translation>
     </message>
     <message>
         <source>Remind me to free memory when inactive memory </source>

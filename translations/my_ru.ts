@@ -96,7 +96,7 @@
     </message>
     <message>
         <source>On Wayland, a program cannot keep its window on top.</source>
-        <translation>В Wayland программа не может удерживать своё окно поверх остальных.</translation>
+        <translation>В Wayland программа не может держать своё окно поверх других.</translation>
     </message>
 </context>
 <context>

@@ -13,7 +13,7 @@
     </message>
     <message>
         <source>Made by &lt;a href=&quot;%1&quot;&gt;Orvanta&lt;/a&gt;</source>
-        <translation>Yapımcı: &lt;a href=&quot;%1&quot;&gt;Orvanta&lt;/a&gt;</translation>
+        <translation>Geliştiren: &lt;a href=&quot;%1&quot;&gt;Orvanta&lt;/a&gt;</translation>
     </message>
     <message>
         <source>Leave Feedback</source>
@@ -48,7 +48,7 @@
     </message>
     <message>
         <source>Update frequency</source>
-        <translation>Güncelleme sıklığı</translation>
+        <translation>Güncelleme aralığı</translation>
     </message>
     <message>
         <source>2 seconds</source>
@@ -96,7 +96,7 @@
     </message>
     <message>
         <source>On Wayland, a program cannot keep its window on top.</source>
-        <translation>Wayland’da bir program penceresini üstte tutamaz.</translation>
+        <translation>Wayland’da bir program kendi penceresini diğer pencerelerin üstünde tutamaz.</translation>
     </message>
 </context>
 <context>
@@ -115,7 +115,7 @@
     </message>
     <message>
         <source>Do Not Remind Me</source>
-        <translation>Bana Hatırlatma</translation>
+        <translation>Bir Daha Hatırlatma</translation>
     </message>
 </context>
 <context>
@@ -176,7 +176,7 @@ p, li { white-space: pre-wrap; }
     </message>
     <message>
         <source>Wired:</source>
-        <translation>Ayrılmış:</translation>
+        <translation>Sabit:</translation>
     </message>
     <message>
         <source>Active:</source>
@@ -275,7 +275,7 @@ p, li { white-space: pre-wrap; }
     </message>
     <message>
         <source>Wired: </source>
-        <translation>Ayrılmış: </translation>
+        <translation>Sabit: </translation>
     </message>
 </context>
 </TS>

@@ -96,7 +96,7 @@
     </message>
     <message>
         <source>On Wayland, a program cannot keep its window on top.</source>
-        <translation>У Wayland програма не може утримувати своє вікно поверх інших.</translation>
+        <translation>У Wayland програма не може тримати своє вікно поверх інших.</translation>
     </message>
 </context>
 <context>
@@ -156,7 +156,7 @@ p, li { white-space: pre-wrap; }
 &lt;html&gt;&lt;head&gt;&lt;meta name=&quot;qrichtext&quot; content=&quot;1&quot; /&gt;&lt;style type=&quot;text/css&quot;&gt;
 p, li { white-space: pre-wrap; }
 &lt;/style&gt;&lt;/head&gt;&lt;body style=&quot; font-family:&apos;Lucida Grande&apos;; font-size:13pt; font-weight:400; font-style:normal;&quot;&gt;
-&lt;p style=&quot; margin-top:12px; margin-bottom:12px; margin-left:0px; margin-right:0px; -qt-block-indent:0; text-indent:0px;&quot;&gt;&lt;span style=&quot; font-weight:600;&quot;&gt;Примітка&lt;/span&gt;: під час звільнення пам’яті система може деякий час не відповідати. Це нормально під час перерозподілу пам’яті. Не рекомендується запускати в цей час інші програми. &lt;/p&gt;
+&lt;p style=&quot; margin-top:12px; margin-bottom:12px; margin-left:0px; margin-right:0px; -qt-block-indent:0; text-indent:0px;&quot;&gt;&lt;span style=&quot; font-weight:600;&quot;&gt;Примітка&lt;/span&gt;: під час звільнення пам’яті система може деякий час не відповідати. Це нормально, поки пам’ять перерозподіляється. Не рекомендується запускати в цей час інші програми. &lt;/p&gt;
 &lt;p style=&quot; margin-top:12px; margin-bottom:12px; margin-left:0px; margin-right:0px; -qt-block-indent:0; text-indent:0px;&quot;&gt;Це може тривати до однієї хвилини. Іноді потрібно виконати «Звільнити пам’ять» кілька разів, щоб зменшити неактивну пам’ять до мінімуму.&lt;/p&gt;&lt;/body&gt;&lt;/html&gt;</translation>
     </message>
     <message>

@@ -13,7 +13,7 @@
     </message>
     <message>
         <source>Made by &lt;a href=&quot;%1&quot;&gt;Orvanta&lt;/a&gt;</source>
-        <translation>由 &lt;a href=&quot;%1&quot;&gt;Orvanta&lt;/a&gt; 制作</translation>
+        <translation>由 &lt;a href=&quot;%1&quot;&gt;Orvanta&lt;/a&gt; 开发</translation>
     </message>
     <message>
         <source>Leave Feedback</source>
@@ -60,7 +60,7 @@
     </message>
     <message>
         <source>Keep main window on top of other windows</source>
-        <translation>主窗口保持在其他窗口之上</translation>
+        <translation>始终将主窗口置于其他窗口之上</translation>
     </message>
     <message>
         <source>Show pie chart on menubar</source>
@@ -80,11 +80,11 @@
     </message>
     <message>
         <source>Automatically hide main window after freeing is completed</source>
-        <translation>释放完成后自动隐藏主窗口</translation>
+        <translation>内存释放完成后自动隐藏主窗口</translation>
     </message>
     <message>
         <source>Remind me to free memory when inactive memory </source>
-        <translation>在下列情况提醒我释放内存： </translation>
+        <translation>在以下情况下提醒我释放内存：</translation>
     </message>
     <message>
         <source>reaches over</source>
@@ -96,7 +96,7 @@
     </message>
     <message>
         <source>On Wayland, a program cannot keep its window on top.</source>
-        <translation>在 Wayland 上，程序无法将自己的窗口保持在最前面。</translation>
+        <translation>在 Wayland 上，程序无法始终将自己的窗口置于其他窗口之上。</translation>
     </message>
 </context>
 <context>
@@ -157,7 +157,7 @@ p, li { white-space: pre-wrap; }
 p, li { white-space: pre-wrap; }
 &lt;/style&gt;&lt;/head&gt;&lt;body style=&quot; font-family:&apos;Lucida Grande&apos;; font-size:13pt; font-weight:400; font-style:normal;&quot;&gt;
 &lt;p style=&quot; margin-top:12px; margin-bottom:12px; margin-left:0px; margin-right:0px; -qt-block-indent:0; text-indent:0px;&quot;&gt;&lt;span style=&quot; font-weight:600;&quot;&gt;注意&lt;/span&gt;：释放内存期间，系统可能会短时间没有响应。这是重新整理内存时的正常现象。建议您在此期间不要启动其他应用程序。 &lt;/p&gt;
-&lt;p style=&quot; margin-top:12px; margin-bottom:12px; margin-left:0px; margin-right:0px; -qt-block-indent:0; text-indent:0px;&quot;&gt;此过程最多可能需要一分钟。有时可能需要多次运行“释放内存”才能将非活跃内存减到最少。&lt;/p&gt;&lt;/body&gt;&lt;/html&gt;</translation>
+&lt;p style=&quot; margin-top:12px; margin-bottom:12px; margin-left:0px; margin-right:0px; -qt-block-indent:0; text-indent:0px;&quot;&gt;此过程最多需要一分钟。有时需要多次运行“释放内存”才能将非活跃内存减到最少。&lt;/p&gt;&lt;/body&gt;&lt;/html&gt;</translation>
     </message>
     <message>
         <source>Do not show this message again.</source>
@@ -176,7 +176,7 @@ p, li { white-space: pre-wrap; }
     </message>
     <message>
         <source>Wired:</source>
-        <translation>联动：</translation>
+        <translation>固定：</translation>
     </message>
     <message>
         <source>Active:</source>
@@ -263,19 +263,19 @@ p, li { white-space: pre-wrap; }
     </message>
     <message>
         <source>Free: </source>
-        <translation>空闲： </translation>
+        <translation>空闲：</translation>
     </message>
     <message>
         <source>Active: </source>
-        <translation>活跃： </translation>
+        <translation>活跃：</translation>
     </message>
     <message>
         <source>Inactive: </source>
-        <translation>非活跃： </translation>
+        <translation>非活跃：</translation>
     </message>
     <message>
         <source>Wired: </source>
-        <translation>联动： </translation>
+        <translation>固定：</translation>
     </message>
 </context>
 </TS>

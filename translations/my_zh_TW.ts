@@ -13,7 +13,7 @@
     </message>
     <message>
         <source>Made by &lt;a href=&quot;%1&quot;&gt;Orvanta&lt;/a&gt;</source>
-        <translation>由 &lt;a href=&quot;%1&quot;&gt;Orvanta&lt;/a&gt; 製作</translation>
+        <translation>由 &lt;a href=&quot;%1&quot;&gt;Orvanta&lt;/a&gt; 開發</translation>
     </message>
     <message>
         <source>Leave Feedback</source>
@@ -60,7 +60,7 @@
     </message>
     <message>
         <source>Keep main window on top of other windows</source>
-        <translation>主視窗保持在其他視窗之上</translation>
+        <translation>將主視窗保持在其他視窗之上</translation>
     </message>
     <message>
         <source>Show pie chart on menubar</source>
@@ -80,11 +80,11 @@
     </message>
     <message>
         <source>Automatically hide main window after freeing is completed</source>
-        <translation>釋放完成後自動隱藏主視窗</translation>
+        <translation>記憶體釋放完成後自動隱藏主視窗</translation>
     </message>
     <message>
         <source>Remind me to free memory when inactive memory </source>
-        <translation>在下列情況提醒我釋放記憶體： </translation>
+        <translation>在下列情況提醒我釋放記憶體：</translation>
     </message>
     <message>
         <source>reaches over</source>
@@ -96,7 +96,7 @@
     </message>
     <message>
         <source>On Wayland, a program cannot keep its window on top.</source>
-        <translation>在 Wayland 上，程式無法將自己的視窗保持在最上層。</translation>
+        <translation>在 Wayland 上，程式無法將自己的視窗保持在其他視窗之上。</translation>
     </message>
 </context>
 <context>
@@ -157,7 +157,7 @@ p, li { white-space: pre-wrap; }
 p, li { white-space: pre-wrap; }
 &lt;/style&gt;&lt;/head&gt;&lt;body style=&quot; font-family:&apos;Lucida Grande&apos;; font-size:13pt; font-weight:400; font-style:normal;&quot;&gt;
 &lt;p style=&quot; margin-top:12px; margin-bottom:12px; margin-left:0px; margin-right:0px; -qt-block-indent:0; text-indent:0px;&quot;&gt;&lt;span style=&quot; font-weight:600;&quot;&gt;注意&lt;/span&gt;：釋放記憶體時，系統可能會短暫沒有回應。這是重新整理記憶體時的正常現象。建議您在這段時間不要啟動其他應用程式。 &lt;/p&gt;
-&lt;p style=&quot; margin-top:12px; margin-bottom:12px; margin-left:0px; margin-right:0px; -qt-block-indent:0; text-indent:0px;&quot;&gt;此過程最多可能需要一分鐘。有時可能需要執行「釋放記憶體」數次，才能將非作用中記憶體減到最少。&lt;/p&gt;&lt;/body&gt;&lt;/html&gt;</translation>
+&lt;p style=&quot; margin-top:12px; margin-bottom:12px; margin-left:0px; margin-right:0px; -qt-block-indent:0; text-indent:0px;&quot;&gt;此過程最多需要一分鐘。有時需要執行「釋放記憶體」數次，才能將非作用中記憶體減到最少。&lt;/p&gt;&lt;/body&gt;&lt;/html&gt;</translation>
     </message>
     <message>
         <source>Do not show this message again.</source>
@@ -263,19 +263,19 @@ p, li { white-space: pre-wrap; }
     </message>
     <message>
         <source>Free: </source>
-        <translation>空閒： </translation>
+        <translation>空閒：</translation>
     </message>
     <message>
         <source>Active: </source>
-        <translation>作用中： </translation>
+        <translation>作用中：</translation>
     </message>
     <message>
         <source>Inactive: </source>
-        <translation>非作用中： </translation>
+        <translation>非作用中：</translation>
     </message>
     <message>
         <source>Wired: </source>
-        <translation>固定： </translation>
+        <translation>固定：</translation>
     </message>
 </context>
 </TS>
