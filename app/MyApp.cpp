@@ -155,7 +155,7 @@ bool MyApp::eventFilter(QObject *watched, QEvent *event)
 {
     // Without a tray, a program without a window could not be reached any more. Queued, since quit() closes
     // every window itself.
-    if (watched == mainDialog && event->type() == QEvent::Close && !TrayHost::IsAvailable()) {
+    if (watched == mainDialog && event->type() == QEvent::Close && (!trayIcon || TrayHost::IsGone())) {
         QMetaObject::invokeMethod(this, "quit", Qt::QueuedConnection);
     }
     return QtSingleApplication::eventFilter(watched, event);

@@ -45,7 +45,8 @@ void MyApp::OnSettingChanged()
     // Deliberately every time, also at every start: the login item follows the setting even after somebody
     // else changed it.
     Global::SetAutoLaunch(flag("AutoLaunch"));
-    mainDialog->SetAutoHide(flag("AutoHide"));
+    mainDialog->SetAutoHide(flag("AutoHide") &&
+                            trayIcon); // without a tray, a hidden window could not be reached
     settings = changed;
     mainDialog->UpdateStats(false);
 }
@@ -57,5 +58,7 @@ void MyApp::SetStyle(int style)
     // Cleared first, so that every widget is polished again even if the text is the same.
     setStyleSheet(QString());
     setStyleSheet(QString::fromLatin1(sheet.readAll()));
-    mainDialog->SetStyle(style);
+    if (mainDialog) {
+        mainDialog->SetStyle(style);
+    }
 }

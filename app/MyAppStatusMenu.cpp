@@ -99,6 +99,7 @@ void MyApp::ShowTrayIcon()
     trayIcon->setContextMenu(statusMenu);
     // Deliberately set again: the panel shows this name, whatever the application is called.
     trayIcon->setToolTip(QStringLiteral("Kelvo"));
+    mainDialog->SetAutoHide(settings[QStringLiteral("AutoHide")].toBool());
 }
 
 void MyApp::SetPlainIcon()

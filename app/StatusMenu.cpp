@@ -4,8 +4,9 @@
 
 #include <utility>
 
-// Some hosts ask once, at the start, and never tell that a menu is closed. So "asked for" has to expire.
-static constexpr qint64 msAskedFor = 10000;
+// Some hosts ask once, at the start, and some never tell that the menu is closed. Until the host has told so
+// once, "open" expires.
+static constexpr qint64 msOpen = 10000;
 // For hosts that never ask.
 static constexpr qint64 msAtLeast = 60000;
 
@@ -13,18 +14,30 @@ StatusMenu::StatusMenu()
 {
     sincePassedOn.start();
     connect(this, SIGNAL(aboutToShow()), this, SLOT(OnAboutToShow()));
+    connect(this, SIGNAL(aboutToHide()), this, SLOT(OnAboutToHide()));
 }
 
 void StatusMenu::OnAboutToShow()
 {
+    bAskedFor = true;
     sinceAsked.start();
     PassOn();
 }
 
+void StatusMenu::OnAboutToHide()
+{
+    bAskedFor = false;
+    bTellsOfClosing = true;
+}
+
+bool StatusMenu::IsOpen() const
+{
+    return isVisible() || (bAskedFor && (bTellsOfClosing || !sinceAsked.hasExpired(msOpen)));
+}
+
 void StatusMenu::actionEvent(QActionEvent *event)
 {
-    const bool bAskedFor = sinceAsked.isValid() && !sinceAsked.hasExpired(msAskedFor);
-    if (event->type() != QEvent::ActionChanged || isVisible() || bAskedFor) {
+    if (event->type() != QEvent::ActionChanged || IsOpen()) {
         heldBack.remove(event->action());
         QMenu::actionEvent(event);
         return;

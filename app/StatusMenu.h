@@ -5,8 +5,8 @@
 #include <QSet>
 
 /// The status menu. It passes changes of its entries on to the desktop only while somebody may look at them,
-/// because with StatusNotifierItem each one wakes the bus and the shell: while the menu is open, within 10 s
-/// after the desktop has asked for it, and otherwise once a minute. Before it opens, everything is passed on.
+/// because with StatusNotifierItem each one wakes the bus and the shell: while the menu is open, and
+/// otherwise once a minute. Before it opens, everything is passed on.
 class StatusMenu : public QMenu
 {
     Q_OBJECT
@@ -19,11 +19,15 @@ protected:
 
 private slots:
     void OnAboutToShow();
+    void OnAboutToHide();
 
 private:
+    bool IsOpen() const;
     void PassOn();
 
     QSet<QAction *> heldBack;
+    bool bAskedFor = false;
+    bool bTellsOfClosing = false;
     QElapsedTimer sinceAsked;
     QElapsedTimer sincePassedOn;
 };

@@ -56,6 +56,7 @@ void DialogPreferences::SetSettings(const QMap<QString, QVariant> &settings)
     ui->doubleSpinBoxThreshold->setValue(settings.value("RemindThreshold").toDouble());
     ui->checkBoxNoTitleBar->setChecked(settings.value("NoTitleBar").toBool());
     ui->checkBoxHideAtStartUp->setChecked(settings.value("HideAtStartUp").toBool());
+    // Deliberately any other value than 0 is the slower one, as in the main window.
     ui->comboBoxFrequency->setCurrentIndex(settings.value("UpdateFrequency").toInt() != 0 ? 1 : 0);
     // What the form's connections do otherwise: they were blocked too.
     ui->doubleSpinBoxThreshold->setEnabled(bRemind);

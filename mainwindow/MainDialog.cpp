@@ -30,6 +30,7 @@ MainDialog::MainDialog(QWidget *parent) : QFrame(parent), ui(new Ui_MainDialog)
     timerUpdate.start(2000);
     UpdateStats(true);
     RestoreState();
+    // Deliberately other numbers than those of a run: starts come sooner, and need a moment to settle.
     CountUse(QStringLiteral("Application/StartCount"), 15, 2000);
 
     timerAbort.setInterval(50000);

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QFrame>
+#include <QSet>
 #include <QTimer>
 #include <QVariantMap>
 
@@ -72,6 +73,7 @@ private:
 
     Ui_MainDialog *ui;
     WorkerThread *worker = nullptr;
+    QSet<QObject *> replacedWorkers;
     QVariantMap stats;
     qlonglong nFreeBefore = 0;
     bool bNoWarning = false;

@@ -77,9 +77,8 @@ void MainDialog::OnFinished()
 {
     // A worker that OnTerminated() has replaced: "N/A" stays. It is deleted only now, because a signal whose
     // sender is gone cannot be told from the new worker's.
-    auto *const replaced = qobject_cast<WorkerThread *>(sender());
-    if (replaced && replaced != worker && replaced->parent() == this) {
-        replaced->deleteLater();
+    if (replacedWorkers.remove(sender())) {
+        sender()->deleteLater();
         return;
     }
     // timerAbort deliberately runs on: when it fires it finds no running thread and stops itself.
@@ -98,6 +97,7 @@ void MainDialog::OnTerminated()
     timerReset.stop();
     timerHide.stop();
     ui->pushButtonGo->setEnabled(true);
+    replacedWorkers.insert(worker);
     CreateWorker();
     ShowResult(QStringLiteral("N/A")); // deliberately not translated
 }

@@ -22,8 +22,8 @@ public:
     /// appears, however late. To be called once.
     void WhenAvailable(std::function<void()> ready);
 
-    /// Whether there is a tray now, or this platform knows no trays. May take 100 ms.
-    static bool IsAvailable();
+    /// Whether there is certainly no tray any more. May take 100 ms; a panel that is slow to answer is there.
+    static bool IsGone();
 
     /// Whether the tray shows icons of the theme by their names. May take 100 ms.
     static bool TakesIconNames();

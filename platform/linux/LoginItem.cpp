@@ -40,8 +40,10 @@ QList<LoginItem> LoginItems(const QString &directory)
     const QFileInfoList files =
         QDir(directory).entryInfoList({QStringLiteral("*.desktop")}, QDir::Files, QDir::Name);
     for (const QFileInfo &info : files) {
+        // A link may lead to a pipe, which would block.
         QFile file(info.filePath());
-        const QByteArray text = file.open(QIODevice::ReadOnly) ? file.read(1 << 20) : QByteArray();
+        const bool bOpen = info.isFile() && file.open(QIODevice::ReadOnly);
+        const QByteArray text = bOpen ? file.read(1 << 20) : QByteArray();
         items << LoginItem{info.filePath(), ParseDesktopEntry(text)};
     }
     return items;
@@ -71,6 +73,9 @@ void MakeLoginItem(const QString &path)
             return;
         }
         file = item->file;
+    }
+    if (const QFileInfo target(file); target.exists() && !target.isFile()) {
+        return; // a link to /dev/null, for example: masked by the user
     }
     QSaveFile entry(file);
     if (QDir().mkpath(directory) && entry.open(QIODevice::WriteOnly)) {

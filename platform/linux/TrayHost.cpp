@@ -4,6 +4,7 @@
 
 #include <QAbstractNativeEventFilter>
 #include <QDBusConnection>
+#include <QDBusError>
 #include <QDBusMessage>
 #include <QDBusPendingCallWatcher>
 #include <QDBusServiceWatcher>
@@ -119,23 +120,35 @@ private:
 
 TrayHost::TrayHost(QObject *parent) : QObject(parent) {}
 
-bool TrayHost::TakesIconNames()
+static QDBusMessage HostAnswer()
 {
-    return IsYes(QDBusConnection::sessionBus().call(HostQuestion(), QDBus::Block, msHostQuestion));
+    return QDBusConnection::sessionBus().call(HostQuestion(), QDBus::Block, msHostQuestion);
 }
 
-bool TrayHost::IsAvailable()
+static bool KnowsTrays()
 {
     const QString platform = QGuiApplication::platformName();
-    const bool bKnowsTrays =
-        platform == QLatin1String("xcb") || platform.startsWith(QLatin1String("wayland"));
-    // The cheaper question first. Where both kinds are there, Qt chooses StatusNotifierItem by itself.
-    return !bKnowsTrays || HasXEmbedTray() || TakesIconNames();
+    return platform == QLatin1String("xcb") || platform.startsWith(QLatin1String("wayland"));
+}
+
+bool TrayHost::TakesIconNames()
+{
+    return IsYes(HostAnswer());
+}
+
+bool TrayHost::IsGone()
+{
+    if (!KnowsTrays() || HasXEmbedTray()) {
+        return false;
+    }
+    const QDBusMessage answer = HostAnswer();
+    return !IsYes(answer) && QDBusError(answer).type() != QDBusError::NoReply;
 }
 
 void TrayHost::WhenAvailable(std::function<void()> ready)
 {
-    if (IsAvailable()) {
+    // The cheaper question first. Where both kinds are there, Qt chooses StatusNotifierItem by itself.
+    if (!KnowsTrays() || HasXEmbedTray() || TakesIconNames()) {
         ready();
         return;
     }

@@ -20,15 +20,15 @@ constexpr std::uint64_t KiBPerPage = 4;
 /// A larger total is a broken file: 2^40 KiB is one PiB.
 constexpr std::uint64_t maxTotalKiB = std::uint64_t{1} << 40;
 
-/// Runs a command by /bin/sh: its standard output, or nothing if it fails, writes too much or takes too long.
-QByteArray ShellOutput(const QString &command)
+/// Runs a program by /bin/sh: its standard output, or nothing if it fails, writes too much or takes too long.
+QByteArray ShellOutput(const QString &program)
 {
     QProcess shell;
     shell.setStandardInputFile(QProcess::nullDevice());
     shell.setStandardErrorFile(QProcess::nullDevice());
     // A process group of its own, so that everything the command started can be killed.
     shell.setChildProcessModifier([] { ::setpgid(0, 0); });
-    shell.start(QStringLiteral("/bin/sh"), {QStringLiteral("-c"), command});
+    shell.start(QStringLiteral("/bin/sh"), {QStringLiteral("-c"), QStringLiteral("exec \"$0\""), program});
     const QDeadlineTimer deadline(msTimeout);
     while (shell.state() != QProcess::NotRunning && !deadline.hasExpired() &&
            shell.bytesAvailable() < maxOutputBytes) {
@@ -50,7 +50,7 @@ QString VmStat()
     // Searched for once: a dead network directory in PATH must not block every sample.
     static const QString installed = QStandardPaths::findExecutable(QStringLiteral("vm_stat"));
     if (!installed.isEmpty() && QFileInfo(installed).isExecutable()) {
-        return QString::fromLatin1(ShellOutput(QStringLiteral("vm_stat")).replace('\n', '\r').constData());
+        return QString::fromLatin1(ShellOutput(installed).replace('\n', '\r').constData());
     }
     QFile file(QStringLiteral("/proc/meminfo"));
     const QByteArray meminfo = file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();

@@ -7,9 +7,9 @@ void TrayHost::WhenAvailable(std::function<void()> ready)
     ready();
 }
 
-bool TrayHost::IsAvailable()
+bool TrayHost::IsGone()
 {
-    return true;
+    return false;
 }
 
 bool TrayHost::TakesIconNames()
