@@ -20,23 +20,33 @@ const std::string cgroup = "/sys/fs/cgroup";
 /// The run goes on without the dirty pages that are not written by then.
 constexpr int msSyncTimeout = 5000;
 
-bool ReadSituation(std::uint64_t asked, Situation &situation, std::string &error)
+/// Reads everything that changes during a run.
+bool UpdateSituation(Situation &situation, std::string &error)
 {
-    situation = {};
-    situation.asked = asked;
     if (!ReadMemoryState(proc, situation.memory, error)) {
         return false;
     }
     situation.cgroup = ReadCgroupHeadroom(proc, cgroup);
     situation.bMayDropCaches = MayDropCaches(proc);
     situation.reclaimableCgroups = FindReclaimableCgroups(cgroup, getuid());
+    situation.inactiveInCgroups = 0;
     for (const std::string &group : situation.reclaimableCgroups) {
         situation.inactiveInCgroups += InactiveInCgroup(group);
     }
     situation.bCgroupReclaimWithoutSwap = !situation.reclaimableCgroups.empty() &&
                                           situation.memory.swapFree > 0 &&
                                           CanReclaimWithoutSwap(situation.reclaimableCgroups.front());
-    situation.pressureDirectory = FindPressureDirectory(PressureDirectories());
+    return true;
+}
+
+bool ReadSituation(std::uint64_t asked, Situation &situation, std::string &error)
+{
+    situation.asked = asked;
+    if (!UpdateSituation(situation, error)) {
+        return false;
+    }
+    // More than the bound, which limits the resident pages: some are evicted meanwhile.
+    situation.pressureFile = FindPressureFile(PressureDirectories(), PressureBound(situation) * 4);
     return true;
 }
 
@@ -74,7 +84,7 @@ public:
             stop = Apply(decision);
             std::string &names = stop == Stop::Failed ? refused : used;
             names += (names.empty() ? "" : " and ") + std::string(MethodName(decision.method));
-            if (!ReadSituation(situation.asked, situation, error)) {
+            if (!UpdateSituation(situation, error)) {
                 return {true, error};
             }
             if (!ShouldTryNext(stop, decision.method)) {
@@ -134,7 +144,7 @@ private:
         ProgressBar bar;
         PressureRequest request;
         if (decision.method == Method::PageCachePressure) {
-            request.directory = situation.pressureDirectory;
+            request.file = situation.pressureFile;
         }
         request.bound = decision.bound;
         request.before = &before;

@@ -12,8 +12,13 @@ Decision DoNothing(const std::string &reason)
     return {Method::None, 0, reason};
 }
 
-/// Pressure takes free memory first, then the oldest cache. The bound is slightly larger than both together,
-/// because free and inactive pages are spread over the kernel's zones and lists.
+/// Pressure pages are charged to this process's own cgroup. At the cgroup's limit the kernel would reclaim
+/// them instead of other cache.
+std::uint64_t UsableHeadroom(const CgroupHeadroom &cgroup)
+{
+    return cgroup.headroom / 16 * 15;
+}
+
 Decision DecidePressure(const Situation &situation, Method lastTried)
 {
     const MemoryState &memory = situation.memory;
@@ -28,22 +33,21 @@ Decision DecidePressure(const Situation &situation, Method lastTried)
         return DoNothing("only " + FormatByteCount(memory.available) + " are available, and " +
                          FormatByteCount(reserve) + " are kept in reserve");
     }
-    // Pressure pages are charged to this process's own cgroup. At the cgroup's limit the kernel would reclaim
-    // them instead of other cache.
-    const std::uint64_t headroom = situation.cgroup.headroom / 16 * 15;
+    const std::uint64_t headroom = UsableHeadroom(situation.cgroup);
     if (headroom < memory.free + minGain) {
         return DoNothing("this control group's limit of " + FormatByteCount(situation.cgroup.limit) +
                          " leaves room for " + FormatByteCount(headroom) +
                          ", less than is free: pressure would only reclaim its own pages");
     }
-    const std::uint64_t bound =
-        std::min({situation.asked, headroom, memory.free + memory.inactiveFile + minGain});
-    if (lastTried < Method::PageCachePressure && !situation.pressureDirectory.empty()) {
-        return {Method::PageCachePressure, bound, "with a sparse file in " + situation.pressureDirectory};
+    const std::uint64_t bound = PressureBound(situation);
+    const std::string &directory = situation.pressureFile.directory;
+    if (lastTried < Method::PageCachePressure && !directory.empty()) {
+        return {Method::PageCachePressure, bound, "with a sparse file in " + directory};
     }
-    const std::string reason = lastTried < Method::PageCachePressure
-                                   ? "no disk file system can be used for a sparse file"
-                                   : "page-cache pressure did not free enough";
+    const std::string reason =
+        lastTried < Method::PageCachePressure
+            ? "no disk file system can be used for a sparse file of " + FormatByteCount(bound)
+            : "page-cache pressure did not free enough";
     // The kernel cannot take anonymous pages back, so the cgroup's limit needs a reserve too.
     const std::uint64_t cgroupReserve =
         std::min(MemoryReserve(situation.cgroup.limit), situation.cgroup.headroom);
@@ -57,6 +61,14 @@ Decision DecidePressure(const Situation &situation, Method lastTried)
 }
 
 } // namespace
+
+std::uint64_t PressureBound(const Situation &situation)
+{
+    const MemoryState &memory = situation.memory;
+    // Slightly more than free and inactive memory, whose pages are spread over the kernel's zones and lists.
+    return std::min({situation.asked, UsableHeadroom(situation.cgroup),
+                     memory.free + memory.inactiveFile + MinWorthFreeing(memory.total)});
+}
 
 Decision Decide(const Situation &situation, Method lastTried)
 {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "memfree/MemoryState.h"
+#include "memfree/PressureFile.h"
 
 #include <string>
 #include <vector>
@@ -30,8 +31,8 @@ struct Situation
     /// Whether the kernel accepts "swappiness=0" for these cgroups. If not, they are reclaimed only while no
     /// swap is free.
     bool bCgroupReclaimWithoutSwap = false;
-    /// A directory where the pages of a sparse file are plain page cache; empty if there is none.
-    std::string pressureDirectory;
+    /// Where the pages of a sparse file are plain page cache.
+    PressureFile pressureFile;
 };
 
 struct Decision
@@ -42,6 +43,9 @@ struct Decision
     /// For users: why this method, or why none.
     std::string reason;
 };
+
+/// The most that pressure may populate: free memory, then the inactive cache.
+std::uint64_t PressureBound(const Situation &situation);
 
 /// Chooses the next method after the last one tried (None at first) for the present situation.
 Decision Decide(const Situation &situation, Method lastTried);

@@ -4,7 +4,6 @@
 #include "memfree/Files.h"
 #include "memfree/MemoryState.h"
 #include "memfree/PressureChild.h"
-#include "memfree/PressureFile.h"
 #include "platform/linux/FindField.h"
 
 #include <algorithm>
@@ -101,11 +100,10 @@ Stop ApplyPressure(const std::string &proc, const std::string &cgroup, const Pre
 {
     // Whole MiB are whole pages, whatever the page size.
     const std::uint64_t bound = request.bound / bytesPerMiB * bytesPerMiB;
-    // More than the bound, which limits the resident pages: some are evicted meanwhile.
-    PressureSource source = {-1, bound * 4};
-    const bool bFile = !request.directory.empty();
+    const bool bFile = !request.file.directory.empty();
+    PressureSource source = {-1, bFile ? request.file.size : bound * 4};
     if (bFile) {
-        source.descriptor = OpenPressureFile(request.directory, source.size);
+        source.descriptor = OpenPressureFile(request.file);
         if (source.descriptor < 0) {
             return Stop::Failed;
         }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "memfree/PressureFile.h"
 #include "memfree/StoppingRule.h"
 
 #include <functional>
@@ -7,8 +8,8 @@
 
 struct PressureRequest
 {
-    /// The directory for the sparse file; empty for anonymous pressure.
-    std::string directory;
+    /// The sparse file; without a directory for anonymous pressure.
+    PressureFile file;
     std::uint64_t bound = 0;
     /// The memory at the start of the run, which harm is measured against, and when that was (msNow()).
     const MemoryState *before = nullptr;

@@ -73,27 +73,31 @@ std::vector<std::string> PressureDirectories()
     return directories;
 }
 
-std::string FindPressureDirectory(const std::vector<std::string> &directories)
+PressureFile FindPressureFile(const std::vector<std::string> &directories, std::uint64_t size)
 {
-    for (const std::string &directory : directories) {
-        const int descriptor = OpenPressureFile(directory, 0);
-        if (descriptor >= 0) {
-            close(descriptor);
-            return directory;
+    for (const std::uint64_t divisor : {1U, 2U, 4U}) {
+        for (const std::string &directory : directories) {
+            const PressureFile file = {directory, size / divisor};
+            const int descriptor = OpenPressureFile(file);
+            if (descriptor >= 0) {
+                close(descriptor);
+                return file;
+            }
         }
     }
     return {};
 }
 
-int OpenPressureFile(const std::string &directory, std::uint64_t size)
+int OpenPressureFile(const PressureFile &file)
 {
     // Checked first, so that nothing is created on a network file system.
-    const int descriptor = IsOnDisk(directory) ? OpenUnlinked(directory) : -1;
+    const int descriptor = IsOnDisk(file.directory) ? OpenUnlinked(file.directory) : -1;
     if (descriptor < 0) {
         return -1;
     }
     const auto pageBytes = static_cast<std::uint64_t>(sysconf(_SC_PAGESIZE));
-    if (ftruncate(descriptor, static_cast<off_t>(std::max(size, pageBytes))) == 0 && KeepsHoles(descriptor)) {
+    if (ftruncate(descriptor, static_cast<off_t>(std::max(file.size, pageBytes))) == 0 &&
+        KeepsHoles(descriptor)) {
         return descriptor;
     }
     close(descriptor);

@@ -20,7 +20,7 @@ std::string Plan(const std::function<void(Situation &)> &change, Method lastTrie
     Situation situation;
     situation.memory = desktop;
     situation.asked = 6 * GiB + 100 * MiB;
-    situation.pressureDirectory = "/home/user/.cache";
+    situation.pressureFile.directory = "/home/user/.cache";
     change(situation);
     const Decision decision = Decide(situation, lastTried);
     return decision.method == Method::None
@@ -52,7 +52,7 @@ private slots:
         const auto root = [](auto &s) { s.bMayDropCaches = true; };
         const auto groups = [](auto &s) { s.inactiveInCgroups = GiB; };
         const auto swap = [&](auto &s) { groups(s), s.memory.swapFree = 1; };
-        const auto noDisk = [](auto &s) { s.pressureDirectory.clear(); };
+        const auto noDisk = [](auto &s) { s.pressureFile = {}; };
         QCOMPARE(Plan(root), "dropping the page cache 0");
         QCOMPARE(Plan(root, Method::DropCaches), "page-cache pressure 6176");
         QCOMPARE(Plan(groups), "control group reclaim 0");

@@ -11,6 +11,7 @@
 #include <csignal>
 #include <fcntl.h>
 #include <poll.h>
+#include <sys/resource.h>
 #include <sys/stat.h>
 #include <sys/wait.h>
 #include <unistd.h>
@@ -23,7 +24,7 @@ private slots:
     void initTestCase()
     {
         std::signal(SIGPIPE, SIG_IGN); // as memfree does
-        disk = FindPressureDirectory({QDir::currentPath().toStdString(), "/var/tmp", "/tmp"});
+        disk = FindPressureFile({QDir::currentPath().toStdString(), "/var/tmp", "/tmp"}, 1).directory;
         QVERIFY2(!disk.empty(), "needs a disk file system in the working directory, /var/tmp or /tmp");
         lowestFree = ::dup(STDIN_FILENO);
         ::close(lowestFree);
@@ -36,13 +37,28 @@ private slots:
 
     void FileHasNeitherNameNorBlocks()
     {
-        QVERIFY(FindPressureDirectory({"/dev/shm", "/proc", "/nowhere/at/all", "/etc/passwd", ""}).empty());
-        const int descriptor = OpenPressureFile(disk, 8 * bytesPerGiB);
+        const std::vector<std::string> useless = {"/dev/shm", "/proc", "/nowhere/at/all", "/etc/passwd", ""};
+        QCOMPARE(FindPressureFile(useless, 1).directory, "");
+        const int descriptor = OpenPressureFile({disk, 8 * bytesPerGiB});
         struct stat status = {};
         QCOMPARE(fstat(descriptor, &status), 0);
         close(descriptor);
         QCOMPARE(quint64(status.st_blocks), 0ULL);
         QCOMPARE(quint64(status.st_nlink), 0ULL);
+    }
+
+    void FileIsAsLargeAsTheSystemAllows()
+    {
+        std::signal(SIGXFSZ, SIG_IGN); // as memfree does
+        rlimit unlimited = {};
+        QCOMPARE(::getrlimit(RLIMIT_FSIZE, &unlimited), 0);
+        const rlimit limited = {bytesPerGiB, unlimited.rlim_max};
+        QCOMPARE(::setrlimit(RLIMIT_FSIZE, &limited), 0);
+        const std::uint64_t size = FindPressureFile({disk}, 4 * bytesPerGiB).size;
+        const std::string tooLarge = FindPressureFile({disk}, 5 * bytesPerGiB).directory;
+        ::setrlimit(RLIMIT_FSIZE, &unlimited);
+        QCOMPARE(size, bytesPerGiB);
+        QCOMPARE(tooLarge, "");
     }
 
     void StopsAtTheBound()
@@ -109,7 +125,7 @@ private:
         MemoryState before;
         ParseMeminfo(Meminfo().toStdString(), before);
         return ApplyPressure(proc.Path(), proc.Path("cgroup"),
-                             {directory, bound, &before, msNow(), &before, onProgress});
+                             {{directory, bound * 4}, bound, &before, msNow(), &before, onProgress});
     }
 
     TemporaryTree proc;
