@@ -24,7 +24,7 @@ bool ReadFile(const std::string &path, std::string &content)
     return count == 0;
 }
 
-bool WriteAll(int descriptor, const std::string &text)
+bool WriteAll(int descriptor, std::string_view text)
 {
     std::size_t written = 0;
     while (written < text.size()) {

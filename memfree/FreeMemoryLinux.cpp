@@ -7,6 +7,7 @@
 #include "memfree/Pressure.h"
 #include "memfree/PressureFile.h"
 #include "memfree/ProgressBar.h"
+#include "memfree/TimedChild.h"
 
 #include <algorithm>
 #include <cstdio>
@@ -65,7 +66,10 @@ bool ShouldTryNext(Stop stop, Method method)
 class FreeingRun
 {
 public:
-    explicit FreeingRun(const Situation &start) : before(start.memory), situation(start) {}
+    FreeingRun(const Situation &start, std::uint64_t msStart)
+        : msStarted(msStart), before(start.memory), situation(start)
+    {
+    }
 
     Outcome Execute()
     {
@@ -74,7 +78,10 @@ public:
             return {false, "nothing to do: " + decision.reason};
         }
         if (NeedsSync(before)) {
-            SyncWithin(msSyncTimeout);
+            SucceedsWithin(msSyncTimeout, [] {
+                sync();
+                return true;
+            });
         }
         std::string used;
         std::string refused;
@@ -165,7 +172,7 @@ private:
                            (why ? std::string(" (stopped: ") + why + ")" : std::string())};
     }
 
-    const std::uint64_t msStarted = msNow();
+    const std::uint64_t msStarted;
     const MemoryState before;
     Situation situation;
 };
@@ -174,9 +181,11 @@ private:
 
 Outcome FreeMemory(std::uint64_t asked)
 {
+    const std::uint64_t msStarted = msNow();
     Situation situation;
     std::string error;
-    return ReadSituation(asked, situation, error) ? FreeingRun(situation).Execute() : Outcome{true, error};
+    return ReadSituation(asked, situation, error) ? FreeingRun(situation, msStarted).Execute()
+                                                  : Outcome{true, error};
 }
 
 Outcome DryRun(std::uint64_t asked)

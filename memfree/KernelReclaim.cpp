@@ -6,13 +6,9 @@
 
 #include <algorithm>
 #include <cerrno>
-#include <csignal>
 #include <dirent.h>
 #include <fcntl.h>
 #include <memory>
-#include <poll.h>
-#include <sys/prctl.h>
-#include <sys/wait.h>
 #include <unistd.h>
 
 namespace {
@@ -42,35 +38,6 @@ bool MayDropCaches(const std::string &proc)
 {
     // access() also refuses on a read-only file system, which most containers have here.
     return access((proc + dropCachesFile).c_str(), W_OK) == 0;
-}
-
-bool SyncWithin(int ms)
-{
-    int ends[2];
-    if (pipe2(ends, O_CLOEXEC) != 0) {
-        return false;
-    }
-    const pid_t child = fork();
-    if (child == 0) {
-        // The child can outlive this process in an uninterruptible wait. It must not keep the caller's pipes
-        // open meanwhile.
-        const auto writeEnd = static_cast<unsigned>(ends[1]);
-        close_range(0, writeEnd - 1, 0);
-        close_range(writeEnd + 1, ~0U, 0);
-        prctl(PR_SET_PDEATHSIG, SIGKILL);
-        sync();
-        _exit(0);
-    }
-    close(ends[1]);
-    // The pipe is closed when the child exits.
-    pollfd childExit = {ends[0], POLLIN, 0};
-    const bool bSynced = child > 0 && poll(&childExit, 1, ms) == 1;
-    close(ends[0]);
-    if (child > 0) {
-        kill(child, SIGKILL);
-        waitpid(child, nullptr, bSynced ? 0 : WNOHANG);
-    }
-    return bSynced;
 }
 
 bool DropPageCache(const std::string &proc)

@@ -13,11 +13,6 @@
 /// Whether this process may write sys/vm/drop_caches in the proc directory.
 bool MayDropCaches(const std::string &proc);
 
-/// Has the kernel write dirty pages to disk, so that they become clean and can be dropped. Waits at most ms:
-/// sync() runs in a child process, so a hanging file system (for example a lost server) blocks only that
-/// child. @return false on timeout
-bool SyncWithin(int ms);
-
 /// Drops the whole clean page cache. @return false if the kernel refuses
 bool DropPageCache(const std::string &proc);
 

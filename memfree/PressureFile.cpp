@@ -1,5 +1,7 @@
 #include "memfree/PressureFile.h"
 
+#include "memfree/TimedChild.h"
+
 #include <algorithm>
 #include <cerrno>
 #include <cstdlib>
@@ -15,6 +17,9 @@ namespace {
 // Missing from some versions of linux/magic.h.
 constexpr std::uint32_t xfsMagic = 0x58465342;
 constexpr std::uint32_t bcachefsMagic = 0xca451a4e;
+
+/// A disk that sleeps may need longer, and is then awake for the smaller sizes.
+constexpr int msDirectoryTimeout = 1000;
 
 bool IsOnDisk(const std::string &directory)
 {
@@ -78,9 +83,7 @@ PressureFile FindPressureFile(const std::vector<std::string> &directories, std::
     for (const std::uint64_t divisor : {1U, 2U, 4U}) {
         for (const std::string &directory : directories) {
             const PressureFile file = {directory, size / divisor};
-            const int descriptor = OpenPressureFile(file);
-            if (descriptor >= 0) {
-                close(descriptor);
+            if (SucceedsWithin(msDirectoryTimeout, [&file] { return OpenPressureFile(file) >= 0; })) {
                 return file;
             }
         }

@@ -16,7 +16,8 @@ struct PressureFile
 };
 
 /// The first directory where OpenPressureFile() succeeds with the given size, or else with half or a quarter
-/// of it: a file system or a limit of this process can refuse large files.
+/// of it: a file system or a limit of this process can refuse large files. A directory whose file system
+/// hangs is skipped.
 PressureFile FindPressureFile(const std::vector<std::string> &directories, std::uint64_t size);
 
 /// Makes the sparse file without a name and without disk blocks. It vanishes with its last

@@ -7,6 +7,9 @@
 #include <string>
 #include <unistd.h>
 
+/// For a terminal.
+constexpr const char *eraseLine = "\r\033[K";
+
 /// A progress bar on standard error. Shown only on a terminal, erased by the destructor.
 class ProgressBar
 {
@@ -15,7 +18,7 @@ public:
     ~ProgressBar()
     {
         if (lastPercent >= 0) {
-            WriteAll(STDERR_FILENO, "\r\033[K");
+            WriteAll(STDERR_FILENO, eraseLine);
         }
     }
     ProgressBar(const ProgressBar &) = delete;

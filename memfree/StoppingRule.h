@@ -60,7 +60,8 @@ std::uint64_t MemoryReserve(std::uint64_t total);
 /// than this again at once.
 std::uint64_t MinWorthFreeing(std::uint64_t total);
 
-/// How long a run may take, in milliseconds. The application aborts it after 50 s.
+/// How long a run may take, in milliseconds. Five seconds later the process ends itself, whatever it is
+/// doing. The application aborts it after 50 s.
 constexpr std::uint64_t msDeadline = 40'000;
 
 /// The stopping rules of every method: other programs are harmed, or the deadline has passed.

@@ -1,6 +1,8 @@
 // memfree: frees inactive memory, as much as is possible without harm to other programs.
 #include "memfree/Files.h"
 #include "memfree/FreeMemory.h"
+#include "memfree/ProgressBar.h"
+#include "memfree/StoppingRule.h"
 
 #include <charconv>
 #include <csignal>
@@ -46,6 +48,16 @@ int Fail(const std::string &why, ExitStatus status)
     return status;
 }
 
+/// Runs as a signal handler, so it uses only calls that are safe there.
+void GiveUp(int /*signal*/)
+{
+    if (isatty(STDERR_FILENO) == 1) {
+        WriteAll(STDERR_FILENO, eraseLine);
+    }
+    WriteAll(STDERR_FILENO, "memfree: gave up, because it took too long\n");
+    _exit(CouldNot);
+}
+
 int Report(const Outcome &outcome)
 {
     if (outcome.bFailed) {
@@ -65,13 +77,15 @@ int main(int argc, char *argv[])
     std::signal(SIGPIPE, SIG_IGN);
     // Beyond a file size limit ftruncate() then fails with an error.
     std::signal(SIGXFSZ, SIG_IGN);
+    std::signal(SIGALRM, GiveUp);
+    alarm(static_cast<unsigned>(msDeadline / 1000 + 5));
 
     bool bDryRun = false;
     const char *count = nullptr;
     for (int i = 1; i < argc; ++i) {
         const std::string_view argument = argv[i];
         if (argument == "-h" || argument == "--help") {
-            WriteAll(STDOUT_FILENO, std::string(help));
+            WriteAll(STDOUT_FILENO, help);
             return Done;
         }
         if (argument == "-n" || argument == "--dry-run") {

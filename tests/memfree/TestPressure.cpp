@@ -3,6 +3,7 @@
 #include "memfree/MemoryState.h"
 #include "memfree/Pressure.h"
 #include "memfree/PressureFile.h"
+#include "memfree/TimedChild.h"
 #include "tests/memfree/Meminfo.h"
 #include "tests/support/TemporaryTree.h"
 
@@ -96,6 +97,16 @@ private slots:
         ::close(output);
         ::close(ends[1]);
         QCOMPARE(stop, Stop::ReaderGone);
+    }
+
+    void WaitsForAHangNoLongerThanAllowed()
+    {
+        QVERIFY(SucceedsWithin(5000, [] { return true; }));
+        QVERIFY(!SucceedsWithin(5000, [] { return false; }));
+        const std::uint64_t msStart = msNow();
+        QVERIFY(!SucceedsWithin(50, [] { return ::pause() < 0; }));
+        QVERIFY(msNow() - msStart < 5000);
+        QCOMPARE(::waitpid(-1, nullptr, 0) > 0, true);
     }
 
     void ChildDiesWithItsParent()
