@@ -61,7 +61,15 @@ void WaitForKswapd(const std::string &proc, std::uint64_t kernelReserve)
 /// Stop::Failed leads to the next method, which must not happen after the kernel ran out of memory.
 Stop ReasonForFailure(const PressureChild &child)
 {
-    return child.Killed() ? Stop::ShortOfMemory : Stop::Failed;
+    switch (child.End()) {
+    case ChildEnd::Killed:
+        return Stop::ShortOfMemory;
+    case ChildEnd::NotNeeded:
+        return Stop::Suspended;
+    case ChildEnd::Failed:
+        break;
+    }
+    return Stop::Failed;
 }
 
 Stop CheckRules(const std::string &proc, const std::string &cgroup, const PressureRequest &request,

@@ -22,6 +22,9 @@ namespace {
 /// in five of thirteen rounds; with this size in none of six.
 constexpr std::size_t pieceSize = 64 * bytesPerKiB;
 
+/// The next request usually comes at once. If it does not come within this time, the parent is suspended.
+constexpr int msPatience = 5000;
+
 bool PopulatePiece(char *start, std::size_t bytes, bool bFile)
 {
     if (madvise(start, bytes, bFile ? MADV_POPULATE_READ : MADV_POPULATE_WRITE) == 0) {
@@ -69,9 +72,17 @@ std::uint64_t ResidentBytes(bool bFile)
            static_cast<std::uint64_t>(sysconf(_SC_PAGESIZE));
 }
 
+bool WaitForRequest(int requests, std::uint64_t &bytes)
+{
+    pollfd request = {requests, POLLIN, 0};
+    return poll(&request, 1, msPatience) == 1 && read(requests, &bytes, sizeof bytes) == sizeof bytes;
+}
+
 [[noreturn]] void RunChild(const PressureSource &source, pid_t parent, int requests, int replies)
 {
     prctl(PR_SET_PDEATHSIG, SIGKILL);
+    // A stop signal from the terminal must not suspend this process too.
+    setpgid(0, 0);
     // The parent may have died before the prctl().
     if (getppid() != parent) {
         _exit(1);
@@ -96,7 +107,7 @@ std::uint64_t ResidentBytes(bool bFile)
 
     std::uint64_t populated = 0;
     std::uint64_t bytes = 0;
-    while (read(requests, &bytes, sizeof bytes) == sizeof bytes) {
+    while (WaitForRequest(requests, bytes)) {
         PressureReply reply;
         bytes = std::min(bytes, source.size - populated);
         reply.bPopulated = PopulateStep(static_cast<char *>(memory) + populated, bytes, bFile);
@@ -168,10 +179,15 @@ bool PressureChild::WaitForReply(int ms, PressureReply &reply)
     return true;
 }
 
-bool PressureChild::Killed() const
+ChildEnd PressureChild::End() const
 {
     siginfo_t end = {};
     // A dying process closes its pipes shortly before it becomes a zombie, so this waits for the end.
-    return bGone && waitid(P_PID, static_cast<id_t>(child), &end, WEXITED | WNOWAIT) == 0 &&
-           end.si_code != CLD_EXITED;
+    if (!bGone || waitid(P_PID, static_cast<id_t>(child), &end, WEXITED | WNOWAIT) != 0) {
+        return ChildEnd::Failed;
+    }
+    if (end.si_code != CLD_EXITED) {
+        return ChildEnd::Killed;
+    }
+    return end.si_status == 0 ? ChildEnd::NotNeeded : ChildEnd::Failed;
 }

@@ -18,9 +18,20 @@ struct PressureReply
     bool bPopulated = false;
 };
 
+/// Why the child is gone.
+enum class ChildEnd
+{
+    /// It could not populate any more, or still runs.
+    Failed,
+    /// It had to wait too long for the next request.
+    NotNeeded,
+    /// By a signal, as the OOM killer does it.
+    Killed
+};
+
 /// A child process that holds the memory of the pressure and populates more of it on request. Its end
-/// releases all of that memory, whatever the cause. It dies with its parent, and the OOM killer picks it
-/// first.
+/// releases all of that memory, whatever the cause. It dies with its parent, and soon after its parent was
+/// suspended. The OOM killer picks it first.
 class PressureChild
 {
 public:
@@ -37,9 +48,8 @@ public:
     /// Waits up to ms for the reply to a step. @return false on timeout. A reply without bPopulated means
     /// that the child can populate no more, or is gone.
     bool WaitForReply(int ms, PressureReply &reply);
-    /// Whether a signal has killed the child, as the OOM killer does. Valid only after Populate() or
-    /// WaitForReply() found that it is gone.
-    bool Killed() const;
+    /// Valid only after Populate() or WaitForReply() found that the child is gone.
+    ChildEnd End() const;
 
 private:
     pid_t child = -1;

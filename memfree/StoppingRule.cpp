@@ -104,6 +104,8 @@ const char *Describe(Stop stop)
         return "cache in use was being evicted";
     case Stop::Deadline:
         return "it took too long";
+    case Stop::Suspended:
+        return "the run was suspended";
     case Stop::ReaderGone:
         return "nobody reads the result";
     case Stop::Failed:

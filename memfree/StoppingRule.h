@@ -20,6 +20,8 @@ enum class Stop
     Stalling,
     EvictingInUse,
     Deadline,
+    /// This program was suspended for a while, so the pressure was released.
+    Suspended,
     /// The calling program is gone, so nobody reads the result.
     ReaderGone,
     /// A system call failed.
