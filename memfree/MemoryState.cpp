@@ -120,6 +120,7 @@ bool ReadMemoryState(const std::string &proc, MemoryState &state, std::string &e
         const auto filePages = FindField(report, "workingset_refault_file");
         const auto allPages = FindField(report, "workingset_refault");
         state.refaulted = filePages.value_or(allPages.value_or(0)) * pageBytes;
+        state.oomKills = FindField(report, "oom_kill").value_or(0);
         // Not pgsteal_file: it also counts what a cgroup at its own limit reclaims from itself.
         for (const char *reclaimer : {"pgsteal_kswapd", "pgsteal_direct", "pgsteal_khugepaged"}) {
             state.fileReclaimed += FindField(report, reclaimer).value_or(0) * pageBytes;

@@ -25,6 +25,8 @@ struct MemoryState
     /// Pages reclaimed because the machine ran short of memory, since boot. As long as nothing is swapped,
     /// these are file pages.
     std::uint64_t fileReclaimed = 0;
+    /// Processes killed because memory ran out, since boot.
+    std::uint64_t oomKills = 0;
     /// Time during which all tasks waited for memory at once (PSI "full"), since boot. 0 without PSI.
     std::uint64_t usStalled = 0;
 };

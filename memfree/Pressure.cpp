@@ -59,11 +59,14 @@ void WaitForKswapd(const std::string &proc, std::uint64_t kernelReserve)
 }
 
 /// Stop::Failed leads to the next method, which must not happen after the kernel ran out of memory.
-Stop ReasonForFailure(const PressureChild &child)
+Stop ReasonForFailure(const PressureChild &child, const std::string &proc, const MemoryState &before)
 {
+    MemoryState now;
+    std::string error;
     switch (child.End()) {
     case ChildEnd::Killed:
-        return Stop::ShortOfMemory;
+        return ReadMemoryState(proc, now, error) && now.oomKills == before.oomKills ? Stop::Killed
+                                                                                    : Stop::ShortOfMemory;
     case ChildEnd::NotNeeded:
         return Stop::Suspended;
     case ChildEnd::Failed:
@@ -141,7 +144,7 @@ Stop ApplyPressure(const std::string &proc, const std::string &cgroup, const Pre
         while (stop == Stop::None) {
             const bool bReplied = child.WaitForReply(msCheckInterval, reply);
             if (bReplied && !reply.bPopulated) {
-                return ReasonForFailure(child);
+                return ReasonForFailure(child, proc, *request.before);
             }
             if (bReplied) {
                 progress.populated += bytes;
@@ -167,5 +170,5 @@ Stop ApplyPressure(const std::string &proc, const std::string &cgroup, const Pre
             WaitForKswapd(proc, kernelReserve);
         }
     }
-    return ReasonForFailure(child);
+    return ReasonForFailure(child, proc, *request.before);
 }

@@ -106,6 +106,8 @@ const char *Describe(Stop stop)
         return "it took too long";
     case Stop::Suspended:
         return "the run was suspended";
+    case Stop::Killed:
+        return "its child process was killed";
     case Stop::ReaderGone:
         return "nobody reads the result";
     case Stop::Failed:

@@ -22,6 +22,8 @@ enum class Stop
     Deadline,
     /// This program was suspended for a while, so the pressure was released.
     Suspended,
+    /// Someone killed the process that held the pressure.
+    Killed,
     /// The calling program is gone, so nobody reads the result.
     ReaderGone,
     /// A system call failed.

@@ -86,7 +86,9 @@ private slots:
         QCOMPARE(steps, 1);
         QFile children(QStringLiteral("/proc/self/task/%1/children").arg(::getpid()));
         QVERIFY(children.open(QIODevice::ReadOnly));
-        QCOMPARE(stopAfter([&] { ::kill(children.readAll().toInt(), SIGKILL); }), Stop::ShortOfMemory);
+        const auto killChild = [&] { children.seek(0), ::kill(children.readAll().toInt(), SIGKILL); };
+        QCOMPARE(stopAfter(killChild), Stop::Killed);
+        QCOMPARE(stopAfter([&] { proc.Write("vmstat", "oom_kill 1\n"), killChild(); }), Stop::ShortOfMemory);
         const int output = ::dup(STDOUT_FILENO);
         int ends[2] = {-1, -1};
         QCOMPARE(::pipe(ends), 0);
