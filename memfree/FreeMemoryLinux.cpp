@@ -7,6 +7,7 @@
 #include "memfree/Pressure.h"
 #include "memfree/PressureFile.h"
 #include "memfree/ProgressBar.h"
+#include "memfree/RunLock.h"
 #include "memfree/TimedChild.h"
 
 #include <algorithm>
@@ -181,6 +182,9 @@ private:
 
 Outcome FreeMemory(std::uint64_t asked)
 {
+    if (!BecomeOnlyRun()) {
+        return {false, "nothing to do: another run is in progress"};
+    }
     const std::uint64_t msStarted = msNow();
     Situation situation;
     std::string error;

@@ -28,6 +28,7 @@ constexpr std::string_view help =
     "  -n, --dry-run  say what would be done and why, and do nothing\n"
     "  -h, --help     show this text\n"
     "\n"
+    "On Linux a user can have one run at a time; a second one says so and ends.\n"
     "The last line says how much was freed, by which method and in what time.\n"
     "Exit status: 0 done or nothing to do, 1 could not, 2 bad usage.\n";
 

@@ -4,6 +4,10 @@
 #include <QRegularExpression>
 #include <QTest>
 
+#include <fcntl.h>
+#include <sys/file.h>
+#include <sys/mman.h>
+#include <sys/stat.h>
 #include <unistd.h>
 
 /// "STATUS|STANDARD OUTPUT|STANDARD ERROR" of a run.
@@ -44,6 +48,24 @@ private slots:
         QCOMPARE(::pipe(ends), 0);
         ::close(ends[0]);
         QCOMPARE(Run({"4096"}, [&ends] { ::dup2(ends[1], STDOUT_FILENO); }), "0||");
+    }
+
+    /// A file that others can open, or that belongs to them, is no lock.
+    void OneRunAtATime()
+    {
+        if (QSysInfo::kernelType() != "linux") {
+            QSKIP("only on Linux");
+        }
+        const std::string name = "/kelvo-memfree-" + std::to_string(::getuid());
+        const int lock = ::shm_open(name.c_str(), O_RDWR | O_CREAT, 0600);
+        QCOMPARE(::flock(lock, LOCK_EX), 0);
+        QCOMPARE(Run({"4096"}), "0|nothing to do: another run is in progress\n|");
+        QVERIFY(Run({"--dry-run", "4096"}).startsWith("0|"));
+        ::fchmod(lock, 0644);
+        const QString withoutLock = Run({"4096"});
+        ::fchmod(lock, 0600);
+        ::close(lock);
+        QVERIFY(withoutLock.contains("are free already"));
     }
 };
 
