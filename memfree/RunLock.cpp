@@ -12,12 +12,12 @@ bool BecomeOnlyRun()
 {
     // Shared memory is there for every user, with and without a session, and never hangs.
     const std::string name = "/kelvo-memfree-" + std::to_string(getuid());
-    const int descriptor = shm_open(name.c_str(), O_RDWR | O_CREAT, 0600);
+    // The name can be taken by another user, who must not be able to block this one, not even with a lease.
+    const int descriptor = shm_open(name.c_str(), O_RDWR | O_CREAT | O_NONBLOCK, 0600);
     struct stat status = {};
     if (descriptor < 0 || fstat(descriptor, &status) != 0) {
         return true;
     }
-    // The name can be taken by another user, who must not be able to block this one.
     if (status.st_uid != getuid() || status.st_mode != (S_IFREG | 0600)) {
         return true;
     }
