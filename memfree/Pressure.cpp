@@ -112,6 +112,7 @@ Stop ApplyPressure(const std::string &proc, const std::string &cgroup, const Pre
     // Whole MiB are whole pages, whatever the page size.
     const std::uint64_t bound = request.bound / bytesPerMiB * bytesPerMiB;
     const bool bFile = !request.file.directory.empty();
+    // More than the bound, which limits the resident pages: some are evicted meanwhile.
     PressureSource source = {-1, bFile ? request.file.size : bound * 4};
     if (bFile) {
         source.descriptor = OpenPressureFile(request.file);

@@ -60,7 +60,6 @@ private slots:
         const int lock = ::shm_open(name.c_str(), O_RDWR | O_CREAT, 0600);
         QCOMPARE(::flock(lock, LOCK_EX), 0);
         QCOMPARE(Run({"4096"}), "0|nothing to do: another run is in progress\n|");
-        QVERIFY(Run({"--dry-run", "4096"}).startsWith("0|"));
         ::fchmod(lock, 0644);
         const QString withoutLock = Run({"4096"});
         ::fchmod(lock, 0600);
