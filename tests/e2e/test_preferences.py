@@ -1,5 +1,4 @@
 """The preferences panel by keyboard and by mouse, and what each setting does, seen from outside."""
-import time
 import unittest
 
 from case import DesktopTest, wait_for
@@ -99,17 +98,6 @@ class Preferences(DesktopTest):
                 self.assertBecomes(lambda: item.icon().width, width)
                 self.assertEqual(all(red == green == blue for _, red, green, blue in item.icon().pixels()), grey)
                 self.assertEqual(MONO in self.kelvo.having(STATE_ENABLED), mono_shown)
-
-    def test_launching_at_login(self):
-        entry = self.desktop.home / ".config/autostart/Kelvo.desktop"
-        self.open()
-        self.assertFalse(entry.exists())
-        for there in True, False, True:
-            self.kelvo.press(LAUNCH)
-            self.assertBecomes(entry.exists, there)
-        self.stop()
-        self.show_panel(self.start())
-        self.assertBecomes(lambda: LAUNCH in self.kelvo.having(STATE_CHECKED), True)
 
 
 unittest.main()

@@ -1,13 +1,11 @@
-// From a report's text to figures, and from figures to their texts, slices and pies. Senseless reports and
+// From a report's text to figures, and from figures to their texts and slices. Senseless reports and
 // the status icon's pies are in tests/e2e.
 
 #include "figures/FormatSizeString.h"
 #include "figures/MemoryReport.h"
-#include "figures/PieChart.h"
 #include "figures/PieSlices.h"
 #include "tests/support/FailOnWarnings.h"
 
-#include <QImage>
 #include <QLocale>
 
 class TestFigures : public QObject
@@ -64,20 +62,6 @@ private slots:
         // Senseless.
         QCOMPARE(spans(10, 10, 20, 20), QList({2880, 5760, 5760, -8640}));
         QCOMPARE(spans(1, 0, 1LL << 50, -(1LL << 50)), QList({5760, 1 << 28, -(1 << 28), 0}));
-    }
-
-    void windowPie()
-    {
-        const PieSlices quarters{1440, 1440, 1440}; // counter-clockwise from twelve o'clock
-        const QImage pie = DrawWindowPie(quarters).toImage();
-        const QImage rim = DrawWindowPie(std::nullopt).toImage();
-        QCOMPARE(pie.size(), QSize(72, 72));
-        QCOMPARE(pie.pixelColor(20, 20), QColor(Qt::green));
-        QCOMPARE(pie.pixelColor(20, 52), QColor(Qt::blue));
-        QCOMPARE(pie.pixelColor(52, 52), QColor(Qt::yellow));
-        QCOMPARE(pie.pixelColor(52, 20), QColor(Qt::red));
-        QCOMPARE(pie.pixelColor(0, 0).alpha(), 0);
-        QVERIFY(qAbs(rim.pixelColor(36, 36).alpha() - 43) <= 2); // three discs of alpha 15 over one another
     }
 };
 

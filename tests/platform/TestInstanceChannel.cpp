@@ -4,7 +4,6 @@
 #include "tests/support/FailOnWarnings.h"
 
 #include <QFile>
-#include <QProcess>
 #include <QSignalSpy>
 #include <QTemporaryDir>
 #include <QThread>
@@ -44,17 +43,6 @@ private slots:
         QVERIFY(!SendFromAnother(longest + 'x')); // too long by a byte
         QVERIFY(!running->Send("to itself", token, 0));
         QCOMPARE(received->size(), 0);
-    }
-
-    void helperThatOutlivesItsCopy()
-    {
-        QVERIFY(!running->IsRunning());
-        QVERIFY(InstanceChannel(identity).IsRunning());
-        QProcess helper;
-        helper.start("sleep", {"3"});
-        QVERIFY(helper.waitForStarted());
-        running.reset();
-        QVERIFY(!InstanceChannel(identity).IsRunning());
     }
 
     void waitsForTheNextRunningCopy()

@@ -9,7 +9,6 @@
 
 #include <QMenu>
 #include <QSettings>
-#include <QTranslator>
 
 /// A vm_stat in PATH with the page counts that a test sets. It must be there at the process's first sample.
 class FakeReport : BundledFake
@@ -31,13 +30,7 @@ public:
 /// A whole application for one test: the real controller over a fake report.
 struct RunningApp
 {
-    explicit RunningApp(const QList<QTranslator *> &catalogues = {})
-    {
-        for (QTranslator *catalogue : catalogues) {
-            QCoreApplication::installTranslator(catalogue);
-        }
-        app.InitializeWidgets();
-    }
+    RunningApp() { app.InitializeWidgets(); }
     ~RunningApp() { delete Find<QMenu>(); } // the program never does: it lives until the process ends
     Q_DISABLE_COPY_MOVE(RunningApp)
 
