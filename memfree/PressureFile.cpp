@@ -82,7 +82,7 @@ PressureFile FindPressureFile(const std::vector<std::string> &directories, std::
 {
     for (const std::uint64_t divisor : {1U, 2U, 4U}) {
         for (const std::string &directory : directories) {
-            const PressureFile file = {directory, size / divisor};
+            PressureFile file = {directory, size / divisor};
             if (SucceedsWithin(msDirectoryTimeout, [&file] { return OpenPressureFile(file) >= 0; })) {
                 return file;
             }
