@@ -96,8 +96,9 @@ int main(int argc, char **argv)
     const State late = RestingState();
     const auto middle = nanoseconds.begin() + static_cast<std::ptrdiff_t>(count / 2);
     std::nth_element(nanoseconds.begin(), middle, nanoseconds.end());
-    std::printf("%.1f %ju %ju %u %u\n", static_cast<double>(*middle) / 1000, uintmax_t{early.anonymousKiB},
-                uintmax_t{late.anonymousKiB}, early.descriptors, late.descriptors);
+    std::printf("%.1f %lu %lu %u %u\n", static_cast<double>(*middle) / 1000,
+                static_cast<unsigned long>(early.anonymousKiB), static_cast<unsigned long>(late.anonymousKiB),
+                early.descriptors, late.descriptors);
     // Without a quit the icon would outlive the application.
     QTimer::singleShot(0, &app, &QCoreApplication::quit);
     return QApplication::exec();
