@@ -1,7 +1,6 @@
-// The preferences panel with any record; how the reminder answers.
+// The preferences panel with any record.
 
 #include "dialogs/DialogPreferences.h"
-#include "dialogs/DialogReminder.h"
 #include "tests/support/FailOnWarnings.h"
 
 #include <QCheckBox>

@@ -7,7 +7,7 @@
 
 namespace {
 
-// Whatever lies there is a language, so that one that the build forgets is missed here.
+/// Of all catalogues in the source.
 QStringList Languages()
 {
     QStringList languages = QDir(TEXTS).entryList({"my_*.ts"});
