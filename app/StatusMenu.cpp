@@ -30,6 +30,14 @@ void StatusMenu::OnAboutToHide()
     bTellsOfClosing = true;
 }
 
+void StatusMenu::hideEvent(QHideEvent *event)
+{
+    // Also emits aboutToHide(): for a menu that Kelvo itself has opened, which says nothing about the host.
+    const bool bTold = bTellsOfClosing;
+    QMenu::hideEvent(event);
+    bTellsOfClosing = bTold;
+}
+
 bool StatusMenu::IsOpen() const
 {
     return isVisible() || (bAskedFor && (bTellsOfClosing || !sinceAsked.hasExpired(msOpen)));

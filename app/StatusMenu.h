@@ -16,6 +16,7 @@ public:
 
 protected:
     void actionEvent(QActionEvent *event) override;
+    void hideEvent(QHideEvent *event) override;
 
 private slots:
     void OnAboutToShow();
