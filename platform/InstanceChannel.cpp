@@ -3,6 +3,7 @@
 #include <QDataStream>
 #include <QDeadlineTimer>
 #include <QFile>
+#include <QFileInfo>
 #include <QLocalServer>
 #include <QLocalSocket>
 #include <QStandardPaths>
@@ -13,6 +14,7 @@
 
 #include <fcntl.h>
 #include <sys/file.h>
+#include <sys/stat.h>
 #include <unistd.h>
 
 // A message is two QByteArrays as QDataStream writes them, each a size and the bytes: the text in UTF-8 and
@@ -23,9 +25,29 @@ static constexpr qsizetype maxTokenBytes = 4096;
 static constexpr int msClient = 5000;
 static constexpr int msRetry = 10;
 
-InstanceChannel::InstanceChannel(const QString &identity, QObject *parent) : QObject(parent)
+// The user's runtime directory, whatever this launch's environment says of it: a launch from cron or `su` has
+// no XDG_RUNTIME_DIR, one from a container's shell another.
+static QString RuntimeDirectory(const QString &usersDirectories)
 {
-    const QString directory = QStandardPaths::writableLocation(QStandardPaths::RuntimeLocation);
+    const QFileInfo own(QStringLiteral("%1/%2").arg(usersDirectories).arg(getuid()));
+    return own.isDir() && own.isWritable() && own.ownerId() == getuid()
+               ? own.filePath()
+               : QStandardPaths::writableLocation(QStandardPaths::RuntimeLocation);
+}
+
+// Whether the file that is open still has this name.
+static bool IsNamed(int descriptor, const QByteArray &name)
+{
+    struct stat open;
+    struct stat named;
+    return fstat(descriptor, &open) == 0 && stat(name.constData(), &named) == 0 &&
+           open.st_dev == named.st_dev && open.st_ino == named.st_ino;
+}
+
+InstanceChannel::InstanceChannel(const QString &identity, QObject *parent, const QString &usersDirectories)
+    : QObject(parent)
+{
+    const QString directory = RuntimeDirectory(usersDirectories);
     if (!directory.isEmpty()) {
         path = QStringLiteral("%1/%2-%3").arg(directory, identity).arg(getuid());
     }
@@ -33,9 +55,10 @@ InstanceChannel::InstanceChannel(const QString &identity, QObject *parent) : QOb
 
 InstanceChannel::~InstanceChannel()
 {
-    // The socket goes while the lock is held: afterwards its name may belong to the next copy.
+    // Socket and lock file go while the lock is held: afterwards their names may belong to the next copy.
     delete server;
     if (lockDescriptor >= 0) {
+        unlink(QFile::encodeName(path + ".lock").constData());
         close(lockDescriptor);
     }
 }
@@ -47,7 +70,8 @@ bool InstanceChannel::IsRunning()
     }
     // Closed on exec, so that a helper that outlives this copy does not keep the lock.
     constexpr int flags = O_RDWR | O_CREAT | O_CLOEXEC | O_NOFOLLOW;
-    const int descriptor = open(QFile::encodeName(path + ".lock").constData(), flags, S_IRUSR | S_IWUSR);
+    const QByteArray name = QFile::encodeName(path + ".lock");
+    const int descriptor = open(name.constData(), flags, S_IRUSR | S_IWUSR);
     if (descriptor < 0) {
         return false;
     }
@@ -55,6 +79,11 @@ bool InstanceChannel::IsRunning()
         const bool bHeldByAnother = errno == EWOULDBLOCK;
         close(descriptor);
         return bHeldByAnother;
+    }
+    if (!IsNamed(descriptor, name)) {
+        // Its holder removed it as it ended, between the two calls above: nobody else finds this file.
+        close(descriptor);
+        return IsRunning();
     }
     lockDescriptor = descriptor;
     server = new QLocalServer(this);

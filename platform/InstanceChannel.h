@@ -10,15 +10,18 @@ class QLocalServer;
 /// One running copy per user: a lock that says which copy runs, and a socket on which it gets the messages of
 /// later ones.
 ///
-/// Both lie in the user's runtime directory. The lock decides. The kernel releases it when its holder ends,
-/// in whatever way, so it is never stale. Nothing is locked before the first call.
+/// Both lie in the user's runtime directory: /run/user/UID, and only where there is none, what the
+/// environment says. The lock decides. The kernel releases it when its holder ends, in whatever way, so it is
+/// never stale. Nothing is locked before the first call.
 class InstanceChannel : public QObject
 {
     Q_OBJECT
 
 public:
     /// @param identity  names the application, such as "Orvanta-Kelvo"; the user's id is added
-    explicit InstanceChannel(const QString &identity, QObject *parent = nullptr);
+    /// @param usersDirectories  where the system makes each user's runtime directory, named by the user's id
+    explicit InstanceChannel(const QString &identity, QObject *parent = nullptr,
+                             const QString &usersDirectories = QStringLiteral("/run/user"));
     ~InstanceChannel() override;
 
     /// True if another copy runs; otherwise this one is the running copy from now on. False too where no lock

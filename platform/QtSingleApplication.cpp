@@ -3,6 +3,9 @@
 #include "platform/InstanceChannel.h"
 #include "platform/LaunchFeedback.h"
 
+#include <QCryptographicHash>
+#include <QStandardPaths>
+
 QtSingleApplication::QtSingleApplication(int &argc, char **argv, bool guiEnabled) : QApplication(argc, argv)
 {
     Q_UNUSED(guiEnabled)
@@ -25,8 +28,13 @@ bool QtSingleApplication::sendMessage(const QString &message, int timeout)
 InstanceChannel &QtSingleApplication::Channel()
 {
     if (!channel) {
-        channel =
-            std::make_unique<InstanceChannel>(organizationName() + QLatin1Char('-') + applicationName());
+        // A Kelvo with settings elsewhere, as tests and trials have, is not the user's own: their place is
+        // part of the name.
+        const QString place = QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation);
+        const QByteArray digest = QCryptographicHash::hash(place.toUtf8(), QCryptographicHash::Md5);
+        channel = std::make_unique<InstanceChannel>(
+            QStringLiteral("%1-%2-%3")
+                .arg(organizationName(), applicationName(), QString::fromLatin1(digest.toHex().left(8))));
         connect(channel.get(), SIGNAL(MessageReceived(QString, QByteArray)), this,
                 SLOT(OnChannelMessage(QString, QByteArray)));
     }

@@ -3,6 +3,7 @@
 #include "platform/InstanceChannel.h"
 #include "tests/support/FailOnWarnings.h"
 
+#include <QDir>
 #include <QFile>
 #include <QSignalSpy>
 #include <QTemporaryDir>
@@ -17,6 +18,7 @@
 static const QString identity = QStringLiteral("Orvanta-Test");
 static const QByteArray token = "launcher_TIME1234";
 static constexpr int maxMessageBytes = 1 << 20;
+static const QString none; // no directory that the system made for its users
 
 class TestInstanceChannel : public QObject
 {
@@ -27,7 +29,7 @@ private slots:
     {
         FailOnWarnings();
         qputenv("XDG_RUNTIME_DIR", QFile::encodeName(directory.path()));
-        running = std::make_unique<InstanceChannel>(identity);
+        running = std::make_unique<InstanceChannel>(identity, nullptr, none);
         received = std::make_unique<QSignalSpy>(running.get(), SIGNAL(MessageReceived(QString, QByteArray)));
     }
 
@@ -59,6 +61,21 @@ private slots:
         QCOMPARE(received->size(), 1);
     }
 
+    void usersOwnDirectoryComesFirst()
+    {
+        const QString users = directory.filePath("users");
+        const QString own = users + '/' + QString::number(getuid());
+        QVERIFY(QDir().mkpath(own));
+        {
+            InstanceChannel first(identity, nullptr, users);
+            QVERIFY(!first.IsRunning());
+            qputenv("XDG_RUNTIME_DIR", QFile::encodeName(users));
+            QVERIFY(InstanceChannel(identity, nullptr, users).IsRunning());
+            QVERIFY(!QDir(own).isEmpty());
+        }
+        QVERIFY(QDir(own).isEmpty());
+    }
+
 private:
     QString Path(const QString &suffix) const
     {
@@ -68,8 +85,8 @@ private:
     static bool SendFromAnother(const QString &message)
     {
         bool bSent = false;
-        const std::unique_ptr<QThread> other(
-            QThread::create([&] { bSent = InstanceChannel(identity).Send(message, token, 20000); }));
+        const std::unique_ptr<QThread> other(QThread::create(
+            [&] { bSent = InstanceChannel(identity, nullptr, none).Send(message, token, 20000); }));
         other->start();
         return QTest::qWaitFor([&] { return other->isFinished(); }, 30000) && bSent;
     }
