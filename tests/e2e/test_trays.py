@@ -66,7 +66,7 @@ class Trays(DesktopTest):
         self.assertEqual(len(tray.items), 1, "a second launch has an icon of its own")
 
     def test_embedded(self):
-        self.desktop.trayer()
+        self.desktop.tray()
         self.kelvo.start()
         icon = self.kelvo.tray_window()
         self.assertTrue(icon, "no icon in the tray")
@@ -81,7 +81,7 @@ class Trays(DesktopTest):
         self.assertBecomes(lambda: self.desktop.screenshot().pixel(x + width * 0.3, y + height / 2), (0, 0, 255))
 
     def test_late_tray(self):
-        for kind, find in {"watcher": lambda tray: tray.item(), "trayer": lambda _: self.kelvo.tray_window()}.items():
+        for kind, find in {"watcher": lambda tray: tray.item(), "tray": lambda _: self.kelvo.tray_window()}.items():
             for late in False, True:
                 with self.subTest(kind, late=late):
                     self.kelvo.start()
@@ -91,7 +91,7 @@ class Trays(DesktopTest):
                     self.assertTrue(find(tray), "no icon")
                     self.assertEqual(bool(self.kelvo.window(0)), late)
                     self.kelvo.stop()
-                    tray.kill() if kind == "trayer" else tray.close()
+                    tray.kill() if kind == "tray" else tray.close()
 
     def test_tray_that_starts_anew(self):
         """First without anything that shows its icons."""

@@ -99,10 +99,13 @@ class Desktop(AbstractContextManager):
         self.spawn("tint2")
         wait_for(lambda: self.run("xdotool", "search", "--onlyvisible", "--class", "tint2", check=False))
 
-    def trayer(self):
-        """An XEmbed tray alone."""
-        tray = self.spawn("trayer", "--edge", "top", "--align", "right", "--widthtype", "request", "--height", "24")
-        wait_for(lambda: self.run("xdotool", "search", "--class", "trayer", check=False))
+    def tray(self):
+        """An XEmbed tray alone: the one of these that is installed."""
+        command = ["stalonetray", "--geometry", "4x1-0+0", "-i", "24"]
+        if shutil.which("trayer"):
+            command = ["trayer", "--edge", "top", "--align", "right", "--widthtype", "request", "--height", "24"]
+        tray = self.spawn(*command)
+        wait_for(lambda: self.run("xdotool", "search", "--class", command[0], check=False))
         return tray
 
     def sway(self):
