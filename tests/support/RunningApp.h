@@ -51,8 +51,8 @@ struct RunningApp
 
     // Qt wants its arguments to outlive the application.
     static inline int count = 1;
-    static inline char name[] = "kelvo";
-    static inline char *arguments[] = {name, nullptr};
+    static inline char program[] = "kelvo";
+    static inline char *arguments[] = {program, nullptr};
 
     MyApp app{count, arguments};
     const FakeReport report{1000, 20, 30, 7};
