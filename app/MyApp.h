@@ -83,7 +83,7 @@ private:
     struct PieIcon
     {
         PieSlices slices;
-        bool bMono;
+        bool bMono = false;
     };
     std::optional<PieIcon> pieShown;
 };

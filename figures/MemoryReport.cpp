@@ -28,22 +28,22 @@ std::optional<qlonglong> BytesOf(const QString &report, QLatin1String label)
 void ReadMemoryReport(const QString &report, QVariantMap &stats)
 {
     const QString free = QStringLiteral("Free");
-    const auto read = [&](QLatin1String label, const QString &key) {
-        if (const auto bytes = BytesOf(report, label)) {
+    const auto read = [&](const char *label, const QString &key) {
+        if (const auto bytes = BytesOf(report, QLatin1String(label))) {
             stats[key] = *bytes;
         }
     };
 
-    read(QLatin1String("Pages free:"), free);
+    read("Pages free:", free);
     // Deliberately copied even without a free line, and then with the former speculative pages in it:
     // PureFree is what this sample built Free on. No window shows it; it is there for readers of the record.
     stats[QStringLiteral("PureFree")] = stats[free];
     if (const auto speculative = BytesOf(report, QLatin1String("Pages speculative:"))) {
         stats[free] = AddBytes(*speculative, stats[free].toLongLong());
     }
-    read(QLatin1String("Pages inactive:"), QStringLiteral("Inactive"));
-    read(QLatin1String("Pages active:"), QStringLiteral("Active"));
-    read(QLatin1String("Pages wired down:"), QStringLiteral("Wired"));
+    read("Pages inactive:", QStringLiteral("Inactive"));
+    read("Pages active:", QStringLiteral("Active"));
+    read("Pages wired down:", QStringLiteral("Wired"));
 
     // Deliberately counts inactive memory as used: it is what freeing can give back.
     stats[QStringLiteral("Used")] = AddBytes(AddBytes(stats[QStringLiteral("Inactive")].toLongLong(),

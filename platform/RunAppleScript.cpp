@@ -12,8 +12,8 @@ QString Global::RunAppleScript(const QString &script, QObject *parent, bool bWai
         return RunInterpreter(interpreter, script, parent, bWait);
     }
     if (!bWait) {
-        QMetaObject::invokeMethod(
-            parent, [script] { SystemAnswer(script); }, Qt::QueuedConnection);
+        const auto ask = [script] { SystemAnswer(script); };
+        QMetaObject::invokeMethod(parent, ask, Qt::QueuedConnection);
         return QString();
     }
     return SystemAnswer(script).trimmed();
