@@ -44,7 +44,7 @@ State RestingState()
     QFile memory(QStringLiteral("/proc/self/smaps_rollup"));
     const QByteArray text = memory.open(QIODevice::ReadOnly) ? memory.readAll() : QByteArray();
     return {FindField(text.constData(), "Anonymous").value_or(0),
-            QDir(QStringLiteral("/proc/self/fd")).count()};
+            static_cast<uint>(QDir(QStringLiteral("/proc/self/fd")).count())};
 }
 
 /// Takes a hundredth of the memory, or gives it back: enough for another icon.
