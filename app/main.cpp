@@ -1,6 +1,7 @@
 #include "app/MyApp.h"
 #include "platform/Global.h"
 #include "platform/QuitOnSignal.h"
+#include "platform/SteadyHeap.h"
 
 #include <QLocale>
 #include <QTranslator>
@@ -11,6 +12,7 @@ static void myMessageOutput(QtMsgType, const QMessageLogContext &, const QString
 
 int main(int argc, char *argv[])
 {
+    KeepHeapSteady();
     qInstallMessageHandler(myMessageOutput);
 
     QString message = QStringLiteral("wake up!");
