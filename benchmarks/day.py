@@ -167,7 +167,7 @@ class Life:
 class XEmbed(Life):
     def __init__(self, built):
         super().__init__(built)
-        self.desktop.trayer()
+        self.desktop.tray()
 
     def find_icon(self):
         x, y, width, height = self.desktop.place(self.kelvo.tray_window())
@@ -202,7 +202,7 @@ class StatusNotifierItem(Life):
 
 
 def live(tray, built, samples, runs):
-    """One life: (samples, runs, what is held) after a tenth, and at the end."""
+    """One life: (samples, runs, what is held) after a tenth, half way, and at the end."""
     life = {"XEmbed": XEmbed, "StatusNotifierItem": StatusNotifierItem}[tray](built)
     states = []
     try:
@@ -211,7 +211,7 @@ def live(tray, built, samples, runs):
             if number > 1:  # the first has been in the start
                 life.use(number % TOGGLE_EVERY == 0)
             life.wait_for_samples(samples * number // runs)
-            if number in (runs // 10, runs):
+            if number in (runs // 10, runs // 2, runs):
                 states.append((life.samples, life.runs(), life.held()))
         status, stored = life.kelvo.stop(), life.kelvo.settings()["Application/Settings"]
         if status != 0 or not CHOSEN.items() <= stored.items():
