@@ -35,20 +35,20 @@ void WindowPlacement::MoveTo(const QPoint &frameTopLeft)
     }
     // A settings file may hold anything; coordinates of the X protocol have 16 bits.
     wanted = QPoint(std::clamp(frameTopLeft.x(), -32768, 32767), std::clamp(frameTopLeft.y(), -32768, 32767));
-    MoveFrame();
+    MoveFrame(*wanted);
     if (window->isVisible()) {
         bInPlace = false;
         timerCorrect.start(msFirstCheck);
     }
 }
 
-void WindowPlacement::MoveFrame()
+void WindowPlacement::MoveFrame(const QPoint &topLeft)
 {
     QList<QRect> screens;
     for (const QScreen *screen : QGuiApplication::screens()) {
         screens << screen->availableGeometry();
     }
-    framePlaced = Reachable(QRect(*wanted, window->frameSize()), screens);
+    framePlaced = Reachable(QRect(topLeft, window->frameSize()), screens);
     window->move(framePlaced);
     clientPlaced = window->geometry().topLeft();
 }
@@ -118,7 +118,7 @@ bool WindowPlacement::eventFilter(QObject *watched, QEvent *event)
     } else if (event->type() == QEvent::Move && event->spontaneous() && !window->isVisible() && wanted) {
         // The window manager takes the frame away from a hidden window and may move the window by its size.
         // That is not the user's doing.
-        MoveFrame();
+        MoveFrame(*wanted);
     } else if (event->type() == QEvent::Show && !event->spontaneous()) {
         // A move() while the window was hidden counts, and so does one before the first show.
         if (wanted ? WasMoved() : window->testAttribute(Qt::WA_Moved)) {
@@ -151,7 +151,7 @@ void WindowPlacement::Correct()
     const bool bFramed =
         window->windowFlags().testFlag(Qt::FramelessWindowHint) || !native->frameMargins().isNull();
     const QPoint found = window->pos();
-    MoveFrame(); // the frame's full size, too, is known only now
+    MoveFrame(*wanted); // the frame's full size, too, is known only now
     const bool bWasInPlace = bInPlace;
     bInPlace = native->isExposed() && bFramed && found == framePlaced;
     if ((bInPlace && bWasInPlace) || timerCorrect.interval() >= msLastCheck) {

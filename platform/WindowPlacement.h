@@ -46,7 +46,7 @@ private slots:
     void Correct();
 
 private:
-    void MoveFrame();
+    void MoveFrame(const QPoint &topLeft);
     void RememberPlace();
     bool WasMoved() const;
 
