@@ -20,7 +20,7 @@ from desktop import Desktop, libc
 from kelvo import Kelvo
 
 SPEED = 250
-TOGGLE_EVERY = 4
+TOGGLE_EVERY = 20
 IN_CLOSE_NOWRITE, IN_OPEN = 0x10, 0x20
 MEMINFO = """MemTotal: 16000000 kB
 MemFree: {free:9} kB
