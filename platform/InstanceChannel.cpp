@@ -35,13 +35,10 @@ static QString RuntimeDirectory(const QString &usersDirectories)
                : QStandardPaths::writableLocation(QStandardPaths::RuntimeLocation);
 }
 
-// Whether the file that is open still has this name.
-static bool IsNamed(int descriptor, const QByteArray &name)
+static bool IsRemoved(int descriptor)
 {
-    struct stat open;
-    struct stat named;
-    return fstat(descriptor, &open) == 0 && stat(name.constData(), &named) == 0 &&
-           open.st_dev == named.st_dev && open.st_ino == named.st_ino;
+    struct stat status;
+    return fstat(descriptor, &status) == 0 && status.st_nlink == 0;
 }
 
 InstanceChannel::InstanceChannel(const QString &identity, QObject *parent, const QString &usersDirectories)
@@ -58,7 +55,9 @@ InstanceChannel::~InstanceChannel()
     // Socket and lock file go while the lock is held: afterwards their names may belong to the next copy.
     delete server;
     if (lockDescriptor >= 0) {
-        unlink(QFile::encodeName(path + ".lock").constData());
+        if (!IsRemoved(lockDescriptor)) { // else the name is another copy's, or nobody's
+            unlink(QFile::encodeName(path + ".lock").constData());
+        }
         close(lockDescriptor);
     }
 }
@@ -70,8 +69,7 @@ bool InstanceChannel::IsRunning()
     }
     // Closed on exec, so that a helper that outlives this copy does not keep the lock.
     constexpr int flags = O_RDWR | O_CREAT | O_CLOEXEC | O_NOFOLLOW;
-    const QByteArray name = QFile::encodeName(path + ".lock");
-    const int descriptor = open(name.constData(), flags, S_IRUSR | S_IWUSR);
+    const int descriptor = open(QFile::encodeName(path + ".lock").constData(), flags, S_IRUSR | S_IWUSR);
     if (descriptor < 0) {
         return false;
     }
@@ -80,7 +78,7 @@ bool InstanceChannel::IsRunning()
         close(descriptor);
         return bHeldByAnother;
     }
-    if (!IsNamed(descriptor, name)) {
+    if (IsRemoved(descriptor)) {
         // Its holder removed it as it ended, between the two calls above: nobody else finds this file.
         close(descriptor);
         return IsRunning();
