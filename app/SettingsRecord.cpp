@@ -20,10 +20,12 @@ bool Flag(const QVariantMap &record, const char *key)
 
 void AvoidBlockingSettings()
 {
-    const QString path = QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation) +
-                         QLatin1Char('/') + QCoreApplication::organizationName() + QLatin1Char('/') +
-                         QCoreApplication::applicationName() + QStringLiteral(".conf");
-    for (const QString &name : {path, path + QStringLiteral(".lock")}) {
+    const QString organization = QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation) +
+                                 QLatin1Char('/') + QCoreApplication::organizationName();
+    const QString suffix = QStringLiteral(".conf");
+    const QString path = organization + QLatin1Char('/') + QCoreApplication::applicationName() + suffix;
+    // QSettings also looks into a file for all of the organization's programs.
+    for (const QString &name : {path, path + QStringLiteral(".lock"), organization + suffix}) {
         if (const QFileInfo file(name); file.exists() && !file.isFile()) {
             QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, QStringLiteral("/dev/null"));
         }

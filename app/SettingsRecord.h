@@ -16,7 +16,7 @@
 //   UpdateFrequency int     0 every 2 s, any other value every 5 s  0
 //   MonoColor       bool    pie chart in black and white            (none)
 
-/// To be called before the first use of QSettings. If the settings file or its lock is something else than a
+/// To be called before the first use of QSettings. If a settings file or its lock is something else than a
 /// file (a pipe, a directory), QSettings would wait for ever: it is pointed to nowhere then, so that the
 /// defaults hold and nothing is stored.
 void AvoidBlockingSettings();
