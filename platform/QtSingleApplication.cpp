@@ -4,6 +4,7 @@
 #include "platform/LaunchFeedback.h"
 
 #include <QCryptographicHash>
+#include <QDir>
 #include <QStandardPaths>
 
 QtSingleApplication::QtSingleApplication(int &argc, char **argv, bool guiEnabled) : QApplication(argc, argv)
@@ -30,7 +31,8 @@ InstanceChannel &QtSingleApplication::Channel()
     if (!channel) {
         // A Kelvo with settings elsewhere, as tests and trials have, is not the user's own: their place is
         // part of the name.
-        const QString place = QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation);
+        const QString place =
+            QDir::cleanPath(QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation));
         const QByteArray digest = QCryptographicHash::hash(place.toUtf8(), QCryptographicHash::Md5);
         channel = std::make_unique<InstanceChannel>(
             QStringLiteral("%1-%2-%3")
