@@ -31,8 +31,7 @@ public:
     /// Delivers a message of up to 1 MiB of UTF-8 to the running copy, with the token by which the desktop
     /// lets it come to the front.
     /// @return true once it has the whole message; false after the time-out, and at once if the message is
-    /// too
-    ///         long or this copy is the running one
+    /// too long or this copy is the running one
     bool Send(const QString &message, const QByteArray &activationToken, int msTimeout);
 
 signals:

@@ -10,8 +10,8 @@
 /// ignored.
 ///
 /// One at a time, created after the application object. As its child it also covers the application's
-/// destructor. A second signal, a second or more after the first, ends a program that hangs. Its destructor
-/// restores the old dispositions.
+/// destructor. A second signal, two seconds or more after the first, ends a program that hangs. Its
+/// destructor restores the old dispositions.
 class QuitOnSignal : public QObject
 {
     Q_OBJECT
