@@ -24,9 +24,12 @@ void AvoidBlockingSettings()
                                  QLatin1Char('/') + QCoreApplication::organizationName();
     const QString suffix = QStringLiteral(".conf");
     const QString path = organization + QLatin1Char('/') + QCoreApplication::applicationName() + suffix;
+    const QString lock = path + QStringLiteral(".lock");
     // QSettings also looks into a file for all of the organization's programs.
-    for (const QString &name : {path, path + QStringLiteral(".lock"), organization + suffix}) {
-        if (const QFileInfo file(name); file.exists() && !file.isFile()) {
+    for (const QString &name : {path, lock, organization + suffix}) {
+        const QFileInfo file(name);
+        const bool bLinkForLock = name == lock && file.isSymLink();
+        if (bLinkForLock || (file.exists() && !file.isFile())) {
             QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, QStringLiteral("/dev/null"));
         }
     }
