@@ -12,8 +12,9 @@ bool BecomeOnlyRun()
 {
     // Shared memory is there for every user, with and without a session, and never hangs.
     const std::string name = "/kelvo-memfree-" + std::to_string(getuid());
+    // Read-only: without a standard output this descriptor is number 1, and gets the result's line.
     // The name can be taken by another user, who must not be able to block this one, not even with a lease.
-    const int descriptor = shm_open(name.c_str(), O_RDWR | O_CREAT | O_NONBLOCK, 0600);
+    const int descriptor = shm_open(name.c_str(), O_RDONLY | O_CREAT | O_NONBLOCK, 0600);
     struct stat status = {};
     if (descriptor < 0 || fstat(descriptor, &status) != 0) {
         return true;
