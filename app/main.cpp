@@ -1,4 +1,5 @@
 #include "app/MyApp.h"
+#include "platform/FocusLeftovers.h"
 #include "platform/Global.h"
 #include "platform/QuitOnSignal.h"
 #include "platform/SteadyHeap.h"
@@ -44,6 +45,7 @@ int main(int argc, char *argv[])
     if (message == QLatin1String("-q")) {
         return 0;
     }
+    new FocusLeftovers(&app);
     new QuitOnSignal(&app); // a child, to be there while the destructor saves
     app.InitializeWidgets();
     return QApplication::exec();

@@ -1,10 +1,19 @@
-// A window's position: what is reachable, and what is shown and stored. Window managers: tests/e2e.
+// A window's position: what is reachable, and what is shown and stored; what Qt keeps of a closed one. Window
+// managers: tests/e2e.
 
+#include "platform/FocusLeftovers.h"
 #include "platform/WindowPlacement.h"
 #include "tests/support/FailOnWarnings.h"
 
 #include <QFrame>
+#include <QGuiApplication>
 #include <QScreen>
+#include <QWindow>
+
+struct Window : QWindow
+{
+    int Connections() const { return receivers(SIGNAL(focusObjectChanged(QObject *))); }
+};
 
 class TestWindowPlacement : public QObject
 {
@@ -60,6 +69,20 @@ private slots:
         placement->StartDrag();
         frame.move(50, 40);
         QCOMPARE(placement->PositionToStore(), QPoint(50, 40));
+    }
+
+    void closedWithTheFocus()
+    {
+        FocusLeftovers leftovers(qGuiApp);
+        Window window;
+        for (int i = 0; i < 2; ++i) {
+            window.show();
+            window.requestActivate();
+            QTRY_COMPARE(QGuiApplication::focusWindow(), &window);
+            QCOMPARE(window.Connections(), 1);
+            window.close();
+        }
+        QCOMPARE(window.Connections(), 0);
     }
 };
 
