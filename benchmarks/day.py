@@ -20,7 +20,7 @@ from desktop import Desktop, libc
 from kelvo import Kelvo
 
 SPEED = 250
-TOGGLE_EVERY = 20
+TOGGLE_EVERY = 4
 IN_CLOSE_NOWRITE, IN_OPEN = 0x10, 0x20
 MEMINFO = """MemTotal: 16000000 kB
 MemFree: {free:9} kB
@@ -87,13 +87,13 @@ class Life:
                     self.samples += masks.count(IN_CLOSE_NOWRITE)
                 os.pwrite(file.fileno(), self.figures().encode(), 0)
 
-    def until(self, act, seen):
+    def until(self, act, seen, what):
         """Acts, if need be again, like a user whose click was lost."""
         for _ in range(5):
             act()
             if found := wait_for(seen, 3):
                 return found
-        raise RuntimeError("Kelvo does not do what it is asked")
+        raise RuntimeError(f"Kelvo does not do what it is asked: {what}")
 
     def wait_for_samples(self, count):
         if not wait_for(lambda: self.samples >= count, 60):
@@ -105,14 +105,14 @@ class Life:
     def close(self, name="^Kelvo$"):
         def alt_f4():
             self.desktop.run("xdotool", "windowactivate", "--sync", self.window(name), "key", "alt+F4", check=False)
-        self.until(alt_f4, lambda: not self.window(name))
+        self.until(alt_f4, lambda: not self.window(name), f"close {name}")
 
     def runs(self):
         return self.freed.stat().st_size
 
     def toggle(self):
         """Every setting there and back, while the main window is shown."""
-        panel = self.until(lambda: self.choose(PREFERENCES), lambda: self.window("Preferences"))
+        panel = self.until(lambda: self.choose(PREFERENCES), lambda: self.window("Preferences"), "open the panel")
         entry = self.desktop.home / ".config/autostart/Kelvo.desktop"
         for controls, wanted in (CONTROLS, True), (BACK, False):
             self.desktop.run("xdotool", *(word for x, y, button in controls.values() for word in (
@@ -124,13 +124,13 @@ class Life:
 
     def use(self, toggle):
         """What is repeated all day: every window, one run, the menu, the reminder."""
-        self.until(self.click, self.window)
+        self.until(self.click, self.window, "show the window")
         if toggle:
             self.toggle()
-        self.until(lambda: self.choose(ABOUT), lambda: self.window("About"))
+        self.until(lambda: self.choose(ABOUT), lambda: self.window("About"), "show About")
         self.close("About")
         runs = self.runs()
-        self.until(lambda: self.choose(FREE), lambda: self.runs() > runs)
+        self.until(lambda: self.choose(FREE), lambda: self.runs() > runs, "free memory")
         self.close()
         self.open_menu()
         self.much = True
@@ -177,10 +177,11 @@ class XEmbed(Life):
         self.desktop.run("xdotool", *self.at, "click", 1)
 
     def choose(self, entry):
-        self.desktop.run("xdotool", *self.at, "click", 3, "key", *["Down"] * entry[1], "Return")
+        # The menu is there some time after the click.
+        self.desktop.run("xdotool", *self.at, "click", 3, "sleep", 0.2, "key", *["Down"] * entry[1], "Return")
 
     def open_menu(self):
-        self.desktop.run("xdotool", *self.at, "click", 3, "key", "Escape")
+        self.desktop.run("xdotool", *self.at, "click", 3, "sleep", 0.2, "key", "Escape")
 
 
 class StatusNotifierItem(Life):
