@@ -53,6 +53,8 @@ InstanceChannel::InstanceChannel(const QString &identity, QObject *parent, const
 InstanceChannel::~InstanceChannel()
 {
     // Socket and lock file go while the lock is held: afterwards their names may belong to the next copy.
+    // Once somebody has removed the lock file they may already; the socket's name goes even then, which is
+    // Qt's doing.
     delete server;
     if (lockDescriptor >= 0) {
         if (!IsRemoved(lockDescriptor)) { // else the name is another copy's, or nobody's
