@@ -4,8 +4,12 @@
 #include "tests/support/FailOnWarnings.h"
 
 #include <QDebug>
+#include <QDir>
 #include <QFile>
 #include <QSettings>
+#include <QTemporaryDir>
+
+#include <sys/stat.h>
 
 class TestSettings : public QObject
 {
@@ -39,6 +43,31 @@ private slots:
         file.close();
         SaveSettings(LoadSettings());
         QVERIFY(file.open(QIODevice::ReadOnly) && file.readAll().contains("; gone"));
+    }
+
+    // A fault here shows as a test that does not end.
+    void whatWouldBlockIsAvoided()
+    {
+        QCoreApplication::setOrganizationName("Orvanta");
+        const QTemporaryDir directory;
+        qputenv("XDG_CONFIG_HOME", QFile::encodeName(directory.path()));
+        const QString organization = directory.filePath("Orvanta.conf");
+        const QString path = directory.filePath("Orvanta/" + QCoreApplication::applicationName() + ".conf");
+        QVERIFY(QDir(directory.path()).mkdir("Orvanta"));
+        const auto avoided = [&] {
+            QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, directory.path());
+            AvoidBlockingSettings();
+            return QSettings().fileName() != path;
+        };
+        for (const QString &name : {path, path + ".lock", organization}) {
+            QVERIFY(!avoided());
+            QVERIFY(mkfifo(QFile::encodeName(name).constData(), 0600) == 0);
+            QVERIFY(avoided());
+            QVERIFY(QFile::remove(name));
+        }
+        QVERIFY(QFile::link("nowhere", path + ".lock"));
+        QVERIFY(avoided());
+        QVERIFY(QFile::remove(path + ".lock"));
     }
 
     void reminderIsDue()
